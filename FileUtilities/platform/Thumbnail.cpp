@@ -1,0 +1,16 @@
+#include "Thumbnail.h"
+
+#include "ThumbnailCache.h"
+#include "ThumbnailRenderer.h"
+
+Thumbnail::Thumbnail(QString path, QSize size, std::shared_ptr<ThumbnailCache> cache)
+    : m_path(std::move(path)), m_size(size), m_cache(std::move(cache))
+{
+}
+
+QImage Thumbnail::image() const
+{
+    if (isNull())
+        return {};
+    return m_cache ? m_cache->imageFor(m_path, m_size) : ThumbnailRenderer::render(m_path, m_size);
+}

@@ -1,0 +1,373 @@
+#include "BRDuplicateFinderClass.h"
+
+#include "ThumbnailCache.h"
+
+#include <QMutexLocker>
+
+namespace {
+
+// Files must be larger than this to be compared; folders must reach one byte less.
+constexpr qint64 smallestComparedFileSize = 65537;
+constexpr qint64 smallestComparedFolderSize = 65536;
+constexpr double thumbnailSide = 70.0;
+
+const QString applicationMarker = QStringLiteral(".app");
+
+} // namespace
+
+BRDuplicateFinderClass::BRDuplicateFinderClass(BRDuplicateFilesViewDelegate *delegate)
+    : m_delegate(delegate), m_thumbnails(std::make_shared<ThumbnailCache>())
+{
+}
+
+void BRDuplicateFinderClass::setCancelActive(bool value)
+{
+    m_cancelActive.store(value, std::memory_order_release);
+}
+
+void BRDuplicateFinderClass::clearScanData()
+{
+    QMutexLocker locker(&m_tablesMutex);
+    m_dictOfDupeFiles = GroupMap();
+    m_dict.clear();
+    m_fileDict.clear();
+    m_stackOfArray.items.clear();
+}
+
+std::optional<DirectoryEnumerator>
+BRDuplicateFinderClass::directoryEnumeratorForPath(const QString &path)
+{
+    return DirectoryEnumerator::open(path);
+}
+
+QString BRDuplicateFinderClass::deletingLastPathComponent(const QString &path)
+{
+    const qsizetype slash = path.lastIndexOf(u'/');
+    if (slash < 0)
+        return QString();
+    return slash == 0 ? QStringLiteral("/") : path.left(slash);
+}
+
+void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
+{
+    auto enumerator = directoryEnumeratorForPath(path);
+    if (!enumerator) {
+        // The screen waits for a final report; an unreadable folder simply found nothing.
+        QMutexLocker locker(&m_tablesMutex);
+        if (!cancelActive())
+            report(locker, true, QString());
+        return;
+    }
+
+    std::optional<QString> previousFolderPath;
+    QString lastFilePath;
+    while (auto entry = enumerator->nextEntry()) {
+        if (cancelActive()) {
+            clearScanData();
+            break;
+        }
+        const QString &entryPath = entry->path;
+        // Application bundles are skipped entry by entry, by a plain substring test.
+        if (entryPath.contains(applicationMarker) || entryPath.isEmpty())
+            continue;
+
+        const QString &name = entry->name;
+        const QString parent = deletingLastPathComponent(entryPath);
+        if (entry->isDirectory()) {
+            const QString folderType = FileTypeDatabase::folderDescription();
+            if (!m_fileDict.contains(parent))
+                m_fileDict.insert(parent, FolderRecord{});
+            StackEntry folderEntry{name, entryPath, QStringLiteral("0"), folderType};
+            // A path that does not contain the previous folder's path has left it: close
+            // what is open above this folder's parent first.
+            if (previousFolderPath && !entryPath.contains(*previousFolderPath)) {
+                closeFolders(parent, lastFilePath);
+                lastFilePath.clear();
+            }
+            m_stackOfArray.push(std::move(folderEntry));
+            previousFolderPath = entryPath;
+            continue;
+        }
+
+        const qint64 size = entry->size;
+        recordFileInFolder(parent, entryPath);
+        if (previousFolderPath) {
+            if (entryPath.contains(*previousFolderPath)) {
+                addSizeToCurrentFolder(size);
+                lastFilePath = entryPath;
+            } else {
+                closeFolders(parent, lastFilePath);
+                lastFilePath = entryPath;
+                addSizeToCurrentFolder(size);
+            }
+        }
+        checkForDuplicateFile(name, size, entryPath);
+    }
+
+    if (m_stackOfArray.count() > 0)
+        closeFolders(QString(), lastFilePath);
+    QMutexLocker locker(&m_tablesMutex);
+    if (!cancelActive())
+        report(locker, true, QString());
+}
+
+// Counts a file in its folder's record; each folder fingerprints only its first readable
+// file here.
+void BRDuplicateFinderClass::recordFileInFolder(const QString &parent, const QString &filePath)
+{
+    auto record = m_fileDict.find(parent);
+    if (record == m_fileDict.end()) {
+        const QString hash = m_oshash.hashForFileAtPath(filePath).fileHash;
+        m_fileDict.insert(parent, FolderRecord{1, 0, hash, hash});
+        return;
+    }
+    QString firstHash = record->firstHash;
+    QString lastHash = record->lastHash;
+    if (firstHash.isEmpty() || lastHash.isEmpty()) {
+        firstHash = m_oshash.hashForFileAtPath(filePath).fileHash;
+        lastHash = firstHash;
+    }
+    *record = FolderRecord{record->fileCount + 1, 0, firstHash, lastHash};
+}
+
+void BRDuplicateFinderClass::addSizeToCurrentFolder(qint64 size)
+{
+    if (size <= 0 || m_stackOfArray.count() == 0)
+        return;
+    StackEntry top = m_stackOfArray.pop();
+    top[StackEntryIndex::size] = QString::number(top[StackEntryIndex::size].toLongLong() + size);
+    m_stackOfArray.push(std::move(top));
+}
+
+void BRDuplicateFinderClass::checkForDuplicateFile(const QString &fileName, qint64 fileSize,
+                                                   const QString &filePath)
+{
+    if (fileSize < smallestComparedFileSize)
+        return;
+    const FileTypeDatabase::FileType type = m_types.typeForFileName(fileName);
+    if (type.description.isEmpty())
+        return;
+
+    QMutexLocker locker(&m_tablesMutex);
+    const QString bucketKey = QString::number(fileSize) + type.description;
+    m_dupeIndex = bucketKey;
+    const auto bucket = m_dict.constFind(bucketKey);
+    if (bucket == m_dict.constEnd()) {
+        storeBucket(fileSize, type.description, fileName, {filePath}, bucketKey);
+        return;
+    }
+    QStringList paths = bucket->filePath;
+    if (paths.isEmpty())
+        return;
+
+    // Each newcomer is compared with the bucket's first file only, and fingerprints are
+    // taken anew each time: they are cheap, and caching them would cost memory per file.
+    const VideoHash reference = m_oshash.hashForFileAtPath(paths.first());
+    const VideoHash candidate = m_oshash.hashForFileAtPath(filePath);
+    // Two files that could not be read are not known to be equal.
+    if (candidate.fileHash.isEmpty() || reference.fileHash != candidate.fileHash)
+        return;
+
+    paths.append(filePath);
+    m_totalDupesSize += fileSize;
+    storeBucket(fileSize, type.description, fileName, paths, bucketKey);
+
+    const QString groupKey = bucketKey + candidate.fileHash;
+    if (const GroupRecord *group = m_dictOfDupeFiles.find(groupKey)) {
+        const GroupRecord joined = *group;
+        updateDictOfDupeFiles(groupKey, fileSize, type.description, joined.fileName, paths,
+                              bucketKey, joined.thumbNail, joined.fileUTI,
+                              joined.totalSize + fileSize);
+        m_totalDupes += 1;
+    } else {
+        if (type.identifier.isEmpty())
+            return;
+        const qint64 total = paths.size() * fileSize;
+        const Thumbnail thumbnail = m_methodClass.deferredThumbnailForPath(
+            filePath, thumbnailSide, thumbnailSide, m_thumbnails);
+        m_totalDupes += paths.size();
+        updateDictOfDupeFiles(groupKey, fileSize, type.description, fileName, paths, bucketKey,
+                              thumbnail, type.identifier, total);
+    }
+    if (!cancelActive())
+        report(locker, false, groupKey);
+}
+
+void BRDuplicateFinderClass::closeFolders(const QString &parentPath, const QString &lastFilePath)
+{
+    const qsizetype count = m_stackOfArray.count();
+    if (count == 0)
+        return;
+    const qsizetype top = count - 1;
+    qint64 runningTotal = 0;
+    for (qsizetype i = top; i >= 0; --i) {
+        StackEntry entry = m_stackOfArray.items.at(i);
+        const QString &path = entry[StackEntryIndex::path];
+        if (path == parentPath)
+            break;
+
+        // A closed subfolder counts as one entry of its parent, with all its own entries.
+        if (const auto closed = m_fileDict.constFind(path); closed != m_fileDict.constEnd()) {
+            const qint64 childCount = closed->fileCount;
+            auto parent = m_fileDict.find(deletingLastPathComponent(path));
+            if (parent != m_fileDict.end())
+                *parent = FolderRecord{parent->fileCount + childCount + 1, parent->fileSize,
+                                       parent->firstHash, parent->lastHash};
+        }
+
+        runningTotal += entry[StackEntryIndex::size].toLongLong();
+        m_stackOfArray.items.removeAt(i);
+        // A folder below the top holds everything closed above it in this call.
+        if (i < top)
+            entry[StackEntryIndex::size] = QString::number(runningTotal);
+        checkForDuplicateFolder(entry[StackEntryIndex::name], entry[StackEntryIndex::type], path,
+                                entry[StackEntryIndex::size].toLongLong(), lastFilePath);
+    }
+    addSizeToCurrentFolder(runningTotal);
+}
+
+void BRDuplicateFinderClass::checkForDuplicateFolder(const QString &folderName,
+                                                     const QString &folderType,
+                                                     const QString &folderPath, qint64 folderSize,
+                                                     const QString &lastFilePath)
+{
+    const auto found = m_fileDict.find(folderPath);
+    if (found == m_fileDict.end())
+        return;
+    if (folderSize < smallestComparedFolderSize)
+        return;
+
+    FolderRecord record = *found;
+    QString key;
+    if (record.fileCount == 0) {
+        key = QString::number(folderSize) + u'0';
+    } else {
+        if (record.fileCount > 1)
+            record.lastHash = m_oshash.hashForFileAtPath(lastFilePath).fileHash;
+        record.fileSize += folderSize;
+        *found = record;
+        key = QString::number(folderSize) + QString::number(record.fileCount) + record.firstHash +
+              record.lastHash;
+    }
+
+    QMutexLocker locker(&m_tablesMutex);
+    const auto bucket = m_dict.constFind(key);
+    if (bucket == m_dict.constEnd()) {
+        storeBucket(folderSize, folderType, folderName, {folderPath}, key);
+        return;
+    }
+
+    // Equal keys make equal folders: nothing further is compared.
+    const qint64 storedSize = bucket->fileSize;
+    QStringList paths = bucket->filePath;
+    paths.append(folderPath);
+    m_totalDupesSize += storedSize;
+    storeBucket(storedSize, folderType, folderName, paths, key);
+    const qint64 total = paths.size() * storedSize;
+
+    if (const GroupRecord *group = m_dictOfDupeFiles.find(key)) {
+        const GroupRecord joined = *group;
+        updateDictOfDupeFiles(key, storedSize, folderType, joined.fileName, paths, key,
+                              joined.thumbNail, folderType, total);
+        m_totalDupes += 1;
+    } else {
+        m_totalDupes += paths.size();
+        const Thumbnail thumbnail = m_methodClass.deferredThumbnailForPath(
+            folderPath, thumbnailSide, thumbnailSide, m_thumbnails);
+        updateDictOfDupeFiles(key, storedSize, folderType, folderName, paths, key, thumbnail,
+                              folderType, total);
+    }
+    if (!cancelActive())
+        report(locker, false, key);
+}
+
+void BRDuplicateFinderClass::updateDict(qint64 fileSize, const QString &fileType,
+                                        const QString &fileName, const QStringList &filePaths,
+                                        const QString &key)
+{
+    QMutexLocker locker(&m_tablesMutex);
+    storeBucket(fileSize, fileType, fileName, filePaths, key);
+}
+
+void BRDuplicateFinderClass::storeBucket(qint64 fileSize, const QString &fileType,
+                                         const QString &fileName, const QStringList &filePaths,
+                                         const QString &key)
+{
+    m_dict.insert(key, BucketRecord{fileSize, fileType, fileName, filePaths});
+}
+
+void BRDuplicateFinderClass::updateDictOfDupeFiles(const QString &key, qint64 fileSize,
+                                                   const QString &fileType,
+                                                   const QString &fileName,
+                                                   const QStringList &filePaths,
+                                                   const QString &oldKey,
+                                                   const Thumbnail &thumbNail,
+                                                   const QString &fileUTI, qint64 totalSize)
+{
+    m_dictOfDupeFiles.insert(key, GroupRecord{fileName, fileSize, fileType, filePaths, oldKey,
+                                              thumbNail, fileUTI, totalSize});
+}
+
+void BRDuplicateFinderClass::report(QMutexLocker<QMutex> &locker, bool completeStatus,
+                                    const QString &key)
+{
+    const GroupMap snapshot = m_dictOfDupeFiles;
+    const qint64 duplicates = m_totalDupes;
+    const qint64 reclaimable = m_totalDupesSize;
+    locker.unlock();
+    if (m_delegate)
+        m_delegate->updateDuplicateFiles(snapshot, completeStatus, key, duplicates, reclaimable);
+}
+
+GroupMap BRDuplicateFinderClass::dictOfDupeFiles() const
+{
+    QMutexLocker locker(&m_tablesMutex);
+    return m_dictOfDupeFiles;
+}
+
+void BRDuplicateFinderClass::setDictOfDupeFiles(const GroupMap &groups)
+{
+    QMutexLocker locker(&m_tablesMutex);
+    m_dictOfDupeFiles = groups;
+}
+
+void BRDuplicateFinderClass::removeGroup(const QString &key)
+{
+    QMutexLocker locker(&m_tablesMutex);
+    m_dict.remove(key);
+    m_dictOfDupeFiles.remove(key);
+}
+
+qint64 BRDuplicateFinderClass::totalDupes() const
+{
+    QMutexLocker locker(&m_tablesMutex);
+    return m_totalDupes;
+}
+
+qint64 BRDuplicateFinderClass::totalDupesSize() const
+{
+    QMutexLocker locker(&m_tablesMutex);
+    return m_totalDupesSize;
+}
+
+void BRDuplicateFinderClass::setTotalDupesSize(qint64 size)
+{
+    QMutexLocker locker(&m_tablesMutex);
+    m_totalDupesSize = size;
+}
+
+QHash<QString, BucketRecord> BRDuplicateFinderClass::dict() const
+{
+    QMutexLocker locker(&m_tablesMutex);
+    return m_dict;
+}
+
+QHash<QString, FolderRecord> BRDuplicateFinderClass::fileDict() const
+{
+    return m_fileDict;
+}
+
+Stack<StackEntry> BRDuplicateFinderClass::stackOfArray() const
+{
+    return m_stackOfArray;
+}

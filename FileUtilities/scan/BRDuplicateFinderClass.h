@@ -1,0 +1,110 @@
+#pragma once
+
+#include "BRDuplicateFilesViewDelegate.h"
+#include "BRObjectClass.h"
+#include "BucketRecord.h"
+#include "DirectoryEntry.h"
+#include "DirectoryEnumerator.h"
+#include "FileTypeDatabase.h"
+#include "FolderRecord.h"
+#include "GroupMap.h"
+#include "OSHashAlgorithm.h"
+#include "Stack.h"
+#include "StackEntry.h"
+
+#include <QHash>
+#include <QMutex>
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+#include <memory>
+#include <optional>
+
+class ThumbnailCache;
+
+// Finds equal files and equal folders in one pass over a folder tree.
+//
+// Files above 64 KiB are sorted into buckets of equal size and type text; each newcomer
+// to a bucket is fingerprinted against the bucket's first file, and a match joins (or
+// forms) the bucket's one group. Folders are summed up when they close by total size,
+// entry count and the fingerprints of their first and last files, and equal sums group.
+// Every change of a group is reported at once, and the scan ends with one final report.
+//
+// A finder serves one scan: built, walking, then finished or cancelled. The scan runs on
+// the calling thread; cancelling and the results screen's edits come from another one.
+class BRDuplicateFinderClass
+{
+public:
+    explicit BRDuplicateFinderClass(BRDuplicateFilesViewDelegate *delegate);
+
+    // Walks `path` and reports as it goes; returns when the walk ends or is cancelled.
+    void findDuplicatesInFolder(const QString &path);
+
+    // Any thread. The walk stops at the head of its next entry, clears its tables and
+    // makes no further report.
+    void setCancelActive(bool value);
+    bool cancelActive() const { return m_cancelActive.load(std::memory_order_acquire); }
+
+    void clearScanData();
+    static std::optional<DirectoryEnumerator> directoryEnumeratorForPath(const QString &path);
+    void addSizeToCurrentFolder(qint64 size);
+
+    // Writes a bucket record, replacing any earlier one. The results screen calls this
+    // after it removed a copy, so that the scan goes on from what the user left.
+    void updateDict(qint64 fileSize, const QString &fileType, const QString &fileName,
+                    const QStringList &filePaths, const QString &key);
+
+    // The results screen keeps the finder level with its deletions while a scan runs.
+    // These may be called from another thread than the scan's; they wait for the scan to
+    // finish the file or folder it is matching.
+    GroupMap dictOfDupeFiles() const;
+    void setDictOfDupeFiles(const GroupMap &groups);
+    void removeGroup(const QString &key);
+    qint64 totalDupes() const;
+    qint64 totalDupesSize() const;
+    void setTotalDupesSize(qint64 size);
+
+    // The scan's own tables, for inspection.
+    QHash<QString, BucketRecord> dict() const;
+    QHash<QString, FolderRecord> fileDict() const;
+    Stack<StackEntry> stackOfArray() const;
+
+private:
+    void checkForDuplicateFile(const QString &fileName, qint64 fileSize, const QString &filePath);
+    void closeFolders(const QString &parentPath, const QString &lastFilePath);
+    void checkForDuplicateFolder(const QString &folderName, const QString &folderType,
+                                 const QString &folderPath, qint64 folderSize,
+                                 const QString &lastFilePath);
+    // Both writers expect the tables lock to be held.
+    void storeBucket(qint64 fileSize, const QString &fileType, const QString &fileName,
+                     const QStringList &filePaths, const QString &key);
+    void updateDictOfDupeFiles(const QString &key, qint64 fileSize, const QString &fileType,
+                               const QString &fileName, const QStringList &filePaths,
+                               const QString &oldKey, const Thumbnail &thumbNail,
+                               const QString &fileUTI, qint64 totalSize);
+    void recordFileInFolder(const QString &parent, const QString &filePath);
+    // Reports outside the lock, so that a receiver may call back into the finder.
+    void report(QMutexLocker<QMutex> &locker, bool completeStatus, const QString &key);
+
+    static QString deletingLastPathComponent(const QString &path);
+
+    // Guards dict, dictOfDupeFiles and the totals against the results screen's edits.
+    mutable QMutex m_tablesMutex;
+
+    QHash<QString, QStringList> m_deletedFilesDict;
+    GroupMap m_dictOfDupeFiles;
+    QHash<QString, BucketRecord> m_dict;
+    QHash<QString, FolderRecord> m_fileDict;
+    std::optional<QString> m_dupeIndex;
+    std::atomic<bool> m_cancelActive{false};
+    qint64 m_totalDupes = 0;
+    qint64 m_totalDupesSize = 0;
+    Stack<StackEntry> m_stackOfArray;
+    BRObjectClass m_methodClass;
+    OSHashAlgorithm m_oshash;
+    BRDuplicateFilesViewDelegate *m_delegate;
+
+    FileTypeDatabase m_types;
+    std::shared_ptr<ThumbnailCache> m_thumbnails;
+};

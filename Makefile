@@ -1,0 +1,34 @@
+# The two commands a newcomer needs:
+#   make run   builds Quillmere and starts it
+#   make test  builds Quillmere and runs every test
+# Both first install the Debian packages that are missing.
+
+BUILD_DIR ?= build
+JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+QUILLMERE_WERROR ?= OFF
+
+.PHONY: run test build configure deps bench format clean
+
+run: build
+	$(BUILD_DIR)/FileUtilities/shell/quillmere
+
+test: build
+	cd $(BUILD_DIR) && ctest --output-on-failure --timeout 600 -j $(JOBS)
+
+build: configure
+	cmake --build $(BUILD_DIR) --parallel $(JOBS)
+
+configure: deps
+	cmake -S . -B $(BUILD_DIR) -DQUILLMERE_WERROR=$(QUILLMERE_WERROR)
+
+deps:
+	@tools/install-deps.sh
+
+bench: build
+	bench/run.sh
+
+format:
+	git ls-files '*.cpp' '*.h' | xargs clang-format -i
+
+clean:
+	rm -rf $(BUILD_DIR)

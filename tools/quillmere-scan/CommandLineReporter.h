@@ -1,0 +1,53 @@
+#pragma once
+
+#include "BRDuplicateFilesViewDelegate.h"
+
+#include <QSet>
+#include <QStringList>
+
+#include <cstdio>
+
+// Receives the scan's reports for the command-line tool: in JSON mode it writes each one
+// as it comes, and it keeps the final groups, their first-report order and the totals
+// for the readable listing.
+class CommandLineReporter final : public BRDuplicateFilesViewDelegate
+{
+public:
+    CommandLineReporter(std::FILE *output, bool json);
+
+    void updateDuplicateFiles(const GroupMap &dictOfDupeFiles, bool completeStatus,
+                              const QString &key, qint64 totalDuplicates,
+                              qint64 totalDupesSize) override;
+
+    bool finished() const { return m_finished; }
+    const GroupMap &groups() const { return m_groups; }
+    // Keys in the order their groups were first reported, then any others.
+    QStringList keysInDiscoveryOrder() const;
+    qint64 totalDuplicates() const { return m_totalDuplicates; }
+    qint64 totalDupesSize() const { return m_totalDupesSize; }
+
+    // The screen's requirements mean nothing on a command line.
+    void updateAfterDelete(int, const QString &) override {}
+    void openURLData(int, const QString &) override {}
+    void showPopOverView(int) override {}
+    void showPopOverForView(QObject *) override {}
+    void closePopOver() override {}
+    void startScanProcess(const std::optional<QUrl> &) override {}
+    void startNewScanProcess() override {}
+    void sortMainType(const QString &, bool) override {}
+    void sortSubType(const QString &, const QString &) override {}
+    void cancelScanProcess() override {}
+    void updateScanStatus(bool) override {}
+
+private:
+    void writeLine(const QByteArray &line);
+
+    std::FILE *m_output;
+    bool m_json;
+    bool m_finished = false;
+    GroupMap m_groups;
+    QStringList m_reportedKeys;
+    QSet<QString> m_reportedKeySet;
+    qint64 m_totalDuplicates = 0;
+    qint64 m_totalDupesSize = 0;
+};

@@ -1,0 +1,85 @@
+#include "BRDuplicateFinderClass.h"
+#include "CommandLineReporter.h"
+#include "DuplicateListing.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QStringList>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int usageError = 2;
+
+const char usage[] =
+    "Usage: quillmere-scan [--json] PATH\n"
+    "\n"
+    "Finds duplicate files and folders below PATH in one pass.\n"
+    "Files above 64 KiB of equal size and type are compared by fingerprint;\n"
+    "folders by total size, entry count and the fingerprints of their first and last files.\n"
+    "Hidden files and folders, and every path containing \".app\", are skipped.\n"
+    "\n"
+    "  --json   print every report of the scan as it happens, one JSON object per line\n"
+    "  --help   show this text\n"
+    "\n"
+    "Exit status: 0 when the scan ran, 2 when PATH is not a readable folder or the\n"
+    "arguments are wrong.\n";
+
+int fail(const QString &message)
+{
+    std::fprintf(stderr, "quillmere-scan: %s\n", qPrintable(message));
+    return usageError;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("quillmere-scan"));
+
+    bool json = false;
+    QStringList paths;
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
+        if (argument == QStringLiteral("--help") || argument == QStringLiteral("-h")) {
+            std::fputs(usage, stdout);
+            return 0;
+        }
+        if (argument == QStringLiteral("--json")) {
+            json = true;
+        } else if (argument == QStringLiteral("--")) {
+            paths += arguments.mid(i + 1);
+            break;
+        } else if (argument.startsWith(u'-') && argument.size() > 1) {
+            return fail(QStringLiteral("unknown option ") + argument + QStringLiteral(" (see --help)"));
+        } else {
+            paths.append(argument);
+        }
+    }
+    if (paths.size() != 1)
+        return fail(QStringLiteral("expected one folder to scan (see --help)"));
+
+    const QString path = paths.first();
+    const QFileInfo info(path);
+    if (!info.exists())
+        return fail(path + QStringLiteral(": no such file or folder"));
+    if (!info.isDir())
+        return fail(path + QStringLiteral(": not a folder"));
+    if (!info.isReadable() || !info.isExecutable())
+        return fail(path + QStringLiteral(": folder cannot be read"));
+
+    CommandLineReporter reporter(stdout, json);
+    BRDuplicateFinderClass finder(&reporter);
+    finder.findDuplicatesInFolder(path);
+
+    if (!json) {
+        const QByteArray listing =
+            DuplicateListing::format(reporter.groups(), reporter.keysInDiscoveryOrder(),
+                                     reporter.totalDuplicates(), reporter.totalDupesSize());
+        std::fwrite(listing.constData(), 1, static_cast<size_t>(listing.size()), stdout);
+    }
+    return std::fflush(stdout) == 0 ? 0 : 1;
+}
