@@ -244,6 +244,13 @@ void BRDuplicateFinderClass::checkForDuplicateFolder(const QString &folderName,
     } else {
         if (record.fileCount > 1)
             record.lastHash = m_oshash.hashForFileAtPath(lastFilePath).fileHash;
+        // As with files, a fingerprint that could not be taken matches nothing: a folder
+        // whose sum rests on an unreadable file is not compared.
+        const bool lastFileUnreadable = record.fileCount > 1 && !lastFilePath.isEmpty() &&
+                                        record.lastHash.isEmpty();
+        const bool onlyFileUnreadable = record.fileCount == 1 && record.firstHash.isEmpty();
+        if (lastFileUnreadable || onlyFileUnreadable)
+            return;
         record.fileSize += folderSize;
         *found = record;
         key = QString::number(folderSize) + QString::number(record.fileCount) + record.firstHash +

@@ -1,0 +1,430 @@
+#include "BRDuplicateFinderClass.h"
+#include "TestDir.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <functional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+struct Report
+{
+    GroupMap groups;
+    bool complete;
+    QString key;
+    qint64 totalDuplicates;
+    qint64 totalDupesSize;
+};
+
+class RecordingDelegate final : public BRDuplicateFilesViewDelegate
+{
+public:
+    std::function<void(const Report &)> onReport;
+    QList<Report> reports;
+    std::unique_ptr<BRDuplicateFinderClass> finder; // set by scan(), for inspection
+
+    void updateDuplicateFiles(const GroupMap &groups, bool complete, const QString &key,
+                              qint64 totalDuplicates, qint64 totalDupesSize) override
+    {
+        reports.append({groups, complete, key, totalDuplicates, totalDupesSize});
+        if (onReport)
+            onReport(reports.constLast());
+    }
+    void updateAfterDelete(int, const QString &) override {}
+    void openURLData(int, const QString &) override {}
+    void showPopOverView(int) override {}
+    void showPopOverForView(QObject *) override {}
+    void closePopOver() override {}
+    void startScanProcess(const std::optional<QUrl> &) override {}
+    void startNewScanProcess() override {}
+    void sortMainType(const QString &, bool) override {}
+    void sortSubType(const QString &, const QString &) override {}
+    void cancelScanProcess() override {}
+    void updateScanStatus(bool) override {}
+
+    const Report &last() const { return reports.constLast(); }
+    QStringList liveKeys() const
+    {
+        QStringList keys;
+        for (const Report &report : reports) {
+            if (!report.complete)
+                keys.append(report.key);
+        }
+        return keys;
+    }
+};
+
+// Runs `body` in a child process that has dropped root's privileges, so that permission
+// bits are obeyed; gives the child's exit status. Without root the body runs directly.
+int runWithoutPrivileges(const QString &treeRoot, const std::function<int()> &body)
+{
+    if (::geteuid() != 0)
+        return body();
+    ::chmod(QFile::encodeName(treeRoot).constData(), 0755);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::setgid(65534) != 0 || ::setuid(65534) != 0)
+            ::_exit(100);
+        ::_exit(body());
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 101;
+}
+
+constexpr qint64 kBig = 100000;
+
+} // namespace
+
+class TestDuplicateFinder : public QObject
+{
+    Q_OBJECT
+
+private:
+    static std::unique_ptr<RecordingDelegate> scan(const QString &path)
+    {
+        auto delegate = std::make_unique<RecordingDelegate>();
+        delegate->finder = std::make_unique<BRDuplicateFinderClass>(delegate.get());
+        delegate->finder->findDuplicatesInFolder(path);
+        return delegate;
+    }
+
+private Q_SLOTS:
+    void sizeLimitForFiles_data()
+    {
+        QTest::addColumn<qint64>("size");
+        QTest::addColumn<int>("groups");
+        QTest::newRow("65536 bytes is too small") << qint64(65536) << 0;
+        QTest::newRow("65537 bytes is compared") << qint64(65537) << 1;
+    }
+    void sizeLimitForFiles()
+    {
+        QFETCH(qint64, size);
+        QFETCH(int, groups);
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("a.bin"), size, 1);
+        dir.createPatternFile(QStringLiteral("b.bin"), size, 1);
+        const auto result = scan(dir.path());
+        QCOMPARE(result->last().groups.size(), groups);
+        QVERIFY(result->last().complete);
+    }
+
+    void emptyTreeGivesOneFinalReport()
+    {
+        TestDir dir;
+        dir.createFile(QStringLiteral("small.txt"), "hello");
+        const auto result = scan(dir.path());
+        QCOMPARE(result->reports.size(), 1);
+        QVERIFY(result->last().complete);
+        QCOMPARE(result->last().key, QString());
+        QVERIFY(result->last().groups.isEmpty());
+        QCOMPARE(result->last().totalDuplicates, 0);
+        QCOMPARE(result->last().totalDupesSize, 0);
+    }
+
+    void unreadableRootStillEndsWithFinalReport()
+    {
+        const auto result = scan(QStringLiteral("/nonexistent/quillmere/folder"));
+        QCOMPARE(result->reports.size(), 1);
+        QVERIFY(result->last().complete);
+    }
+
+    void differentTypeTextsNeverMatch()
+    {
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("a.png"), kBig, 7);
+        dir.createPatternFile(QStringLiteral("b.jpg"), kBig, 7);
+        QVERIFY(scan(dir.path())->last().groups.isEmpty());
+    }
+
+    // Each newcomer is compared with its bucket's first file only.
+    void bucketReferenceIsTheFirstFile_data()
+    {
+        QTest::addColumn<QList<quint32>>("seeds"); // contents of a, b, c in walk order
+        QTest::addColumn<QStringList>("grouped");
+        QTest::newRow("b equals c, not a") << QList<quint32>{1, 2, 2} << QStringList{};
+        QTest::newRow("a equals c, b differs")
+            << QList<quint32>{1, 2, 1} << QStringList{QStringLiteral("a.dat"), QStringLiteral("c.dat")};
+        QTest::newRow("all equal") << QList<quint32>{3, 3, 3}
+                                   << QStringList{QStringLiteral("a.dat"), QStringLiteral("b.dat"),
+                                                  QStringLiteral("c.dat")};
+    }
+    void bucketReferenceIsTheFirstFile()
+    {
+        QFETCH(QList<quint32>, seeds);
+        QFETCH(QStringList, grouped);
+        TestDir dir;
+        const QStringList names{QStringLiteral("a.dat"), QStringLiteral("b.dat"),
+                                QStringLiteral("c.dat")};
+        for (int i = 0; i < 3; ++i)
+            dir.createPatternFile(names[i], kBig, seeds[i]);
+        const GroupMap groups = scan(dir.path())->last().groups;
+        if (grouped.isEmpty()) {
+            QVERIFY(groups.isEmpty());
+            return;
+        }
+        QCOMPARE(groups.size(), 1);
+        QStringList expected;
+        for (const QString &name : grouped)
+            expected.append(dir.filePath(name));
+        QCOMPARE(groups.find(groups.keys().first())->filePath, expected);
+    }
+
+    void threeCopiesReportTwiceWithTotals()
+    {
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("1-first.mp3"), kBig, 5);
+        dir.createPatternFile(QStringLiteral("2-second.mp3"), kBig, 5);
+        dir.createPatternFile(QStringLiteral("3-third.mp3"), kBig, 5);
+        const auto result = scan(dir.path());
+
+        QCOMPARE(result->reports.size(), 3);
+        const QStringList keys = result->liveKeys();
+        QCOMPARE(keys.size(), 2);
+        QCOMPARE(keys[0], keys[1]);
+        QCOMPARE(result->reports[0].groups.find(keys[0])->filePath.size(), 2);
+        // The first report's map is a snapshot: the later copy does not show in it.
+        QCOMPARE(result->reports[1].groups.find(keys[0])->filePath.size(), 3);
+
+        const GroupRecord group = *result->last().groups.find(keys[0]);
+        QCOMPARE(group.fileName, QStringLiteral("2-second.mp3"));
+        QCOMPARE(group.fileSize, kBig);
+        QCOMPARE(group.totalSize, 3 * kBig);
+        QCOMPARE(group.fileUTI, QStringLiteral("audio/mpeg"));
+        QVERIFY(keys[0].startsWith(QString::number(kBig) + group.fileType));
+        QCOMPARE(group.oldKey, QString::number(kBig) + group.fileType);
+        QVERIFY(!group.thumbNail.isNull());
+        QCOMPARE(group.thumbNail.path(), dir.filePath(QStringLiteral("2-second.mp3")));
+        QCOMPARE(result->last().totalDuplicates, 3);
+        QCOMPARE(result->last().totalDupesSize, 2 * kBig);
+    }
+
+    void equalFoldersFormAGroupAfterTheirFiles()
+    {
+        TestDir dir;
+        for (const QString &folder : {QStringLiteral("A"), QStringLiteral("B")}) {
+            // Different types, so that the two files do not share one bucket.
+            dir.createPatternFile(folder + QStringLiteral("/one.dat"), kBig, 11);
+            dir.createPatternFile(folder + QStringLiteral("/two.jpg"), kBig, 12);
+        }
+        const auto result = scan(dir.path());
+        const GroupMap groups = result->last().groups;
+        QCOMPARE(groups.size(), 3);
+
+        const QString folderKey = result->liveKeys().last();
+        const GroupRecord folder = *groups.find(folderKey);
+        QCOMPARE(folder.filePath, (QStringList{dir.filePath(QStringLiteral("A")),
+                                               dir.filePath(QStringLiteral("B"))}));
+        QCOMPARE(folder.fileSize, 2 * kBig);
+        QCOMPARE(folder.totalSize, 4 * kBig);
+        QCOMPARE(folder.fileType, QStringLiteral("Folder"));
+        QCOMPARE(folder.fileUTI, QStringLiteral("Folder"));
+        QCOMPARE(folder.oldKey, folderKey);
+        QCOMPARE(folder.fileName, QStringLiteral("B"));
+        // Files in the duplicate folders count in their own groups and in the folder's.
+        QCOMPARE(result->last().totalDuplicates, 6);
+        QCOMPARE(result->last().totalDupesSize, 4 * kBig);
+    }
+
+    void foldersWithOneFileMatchOnEqualHashes()
+    {
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("A/x.dat"), kBig, 3);
+        dir.createPatternFile(QStringLiteral("B/y.dat"), kBig, 3);
+        const auto result = scan(dir.path());
+        const auto &finder = result->finder;
+        QCOMPARE(result->last().groups.size(), 2);
+        const FolderRecord record = finder->fileDict().value(dir.filePath(QStringLiteral("A")));
+        QCOMPARE(record.fileCount, 1);
+        QCOMPARE(record.firstHash, record.lastHash);
+        QCOMPARE(record.fileSize, kBig);
+    }
+
+    void folderSizeLimit_data()
+    {
+        QTest::addColumn<qint64>("size");
+        QTest::addColumn<int>("groups");
+        QTest::newRow("65535 bytes is too small") << qint64(65535) << 0;
+        QTest::newRow("65536 bytes is compared") << qint64(65536) << 1;
+    }
+    void folderSizeLimit()
+    {
+        QFETCH(qint64, size);
+        QFETCH(int, groups);
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("A/f.dat"), size, 9);
+        dir.createPatternFile(QStringLiteral("B/f.dat"), size, 9);
+        QCOMPARE(scan(dir.path())->last().groups.size(), groups);
+    }
+
+    void folderOfOnlyASubfolderCountsItsEntries()
+    {
+        TestDir dir;
+        for (const QString &top : {QStringLiteral("P"), QStringLiteral("R")}) {
+            dir.createPatternFile(top + QStringLiteral("/Q/one.dat"), kBig, 21);
+            dir.createPatternFile(top + QStringLiteral("/Q/two.jpg"), kBig, 22);
+        }
+        const auto result = scan(dir.path());
+        const auto &finder = result->finder;
+        const FolderRecord outer = finder->fileDict().value(dir.filePath(QStringLiteral("P")));
+        QCOMPARE(outer.fileCount, 3);
+        QCOMPARE(outer.firstHash, QString());
+        QCOMPARE(outer.fileSize, 2 * kBig);
+        // Two file groups, the Q pair and the P/R pair.
+        QCOMPARE(result->last().groups.size(), 4);
+        QVERIFY(finder->stackOfArray().items.isEmpty());
+    }
+
+    // /r/AB contains the text /r/A, so the walk takes it for a subfolder of /r/A and its
+    // size lands in /r/A's total when both close.
+    void siblingWhosePathExtendsAnother()
+    {
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("A/f.dat"), 70000, 31);
+        dir.createPatternFile(QStringLiteral("AB/g.dat"), 70000, 32);
+        const auto result = scan(dir.path());
+        const auto &finder = result->finder;
+        QCOMPARE(finder->fileDict().value(dir.filePath(QStringLiteral("AB"))).fileSize, 70000);
+        QCOMPARE(finder->fileDict().value(dir.filePath(QStringLiteral("A"))).fileSize, 140000);
+    }
+
+    void skipRules()
+    {
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("keep/a.dat"), kBig, 41);
+        dir.createPatternFile(QStringLiteral("keep/.hidden.dat"), kBig, 41);
+        dir.createPatternFile(QStringLiteral(".hiddenfolder/b.dat"), kBig, 41);
+        dir.createPatternFile(QStringLiteral("keep/x.app.bak"), kBig, 41);
+        dir.createPatternFile(QStringLiteral("My.app/Contents/c.dat"), kBig, 41);
+        dir.createPatternFile(QStringLiteral("notes.apple/d.dat"), kBig, 41);
+        const auto result = scan(dir.path());
+        const auto &finder = result->finder;
+        QVERIFY(result->last().groups.isEmpty());
+        const FolderRecord keep = finder->fileDict().value(dir.filePath(QStringLiteral("keep")));
+        QCOMPARE(keep.fileCount, 1); // only a.dat: hidden and ".app" entries are never seen
+    }
+
+    void rootFilesLeaveTheStackEmpty()
+    {
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("a.dat"), kBig, 51);
+        dir.createPatternFile(QStringLiteral("b.dat"), kBig, 51);
+        const auto result = scan(dir.path());
+        const auto &finder = result->finder;
+        QCOMPARE(result->last().groups.size(), 1);
+        QCOMPARE(finder->fileDict().size(), 1); // only the root's own record
+        QCOMPARE(finder->fileDict().value(dir.path()).fileCount, 2);
+    }
+
+    void cancelBetweenEntriesClearsEverything()
+    {
+        TestDir dir;
+        for (int i = 0; i < 4; ++i)
+            dir.createPatternFile(QStringLiteral("d%1/f.dat").arg(i), kBig, 61);
+        RecordingDelegate delegate;
+        BRDuplicateFinderClass finder(&delegate);
+        delegate.onReport = [&finder](const Report &) { finder.setCancelActive(true); };
+        finder.findDuplicatesInFolder(dir.path());
+        QCOMPARE(delegate.reports.size(), 1);
+        QVERIFY(!delegate.last().complete);
+        QVERIFY(finder.dictOfDupeFiles().isEmpty());
+        QVERIFY(finder.dict().isEmpty());
+        QVERIFY(finder.fileDict().isEmpty());
+        QCOMPARE(finder.stackOfArray().count(), 0);
+    }
+
+    void twoScansGiveTheSameReports()
+    {
+        TestDir dir;
+        for (int i = 0; i < 6; ++i) {
+            dir.createPatternFile(QStringLiteral("x%1/a.dat").arg(i), kBig, 71);
+            dir.createPatternFile(QStringLiteral("x%1/b%2.jpg").arg(i).arg(i % 2), kBig + i % 2, 72);
+        }
+        QCOMPARE(scan(dir.path())->liveKeys(), scan(dir.path())->liveKeys());
+    }
+
+    // Things a real tree holds that must neither stop nor stall a scan.
+    void badInputIsPassedOver()
+    {
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("a/one.dat"), kBig, 81);
+        dir.createPatternFile(QStringLiteral("b/one.dat"), kBig, 81);
+        QVERIFY(::mkfifo(QFile::encodeName(dir.filePath(QStringLiteral("a/pipe"))).constData(),
+                         0600) == 0);
+        QVERIFY(QFile::link(dir.filePath(QStringLiteral("b")),
+                            dir.filePath(QStringLiteral("b/loop"))));
+        dir.createDir(QStringLiteral("c"));
+        QVERIFY(QFile::link(dir.filePath(QStringLiteral("a/one.dat")),
+                            dir.filePath(QStringLiteral("c/zlink.dat"))));
+        // A name that is not UTF-8 cannot be shown or trashed under its own name.
+        const QByteArray badName = QFile::encodeName(dir.path()) + "/c/bad\xff\xfe.dat";
+        const QByteArray data = TestDir::pattern(kBig, 81);
+        const int fd = ::open(badName.constData(), O_WRONLY | O_CREAT, 0644);
+        QVERIFY(fd >= 0);
+        QCOMPARE(::write(fd, data.constData(), static_cast<size_t>(data.size())),
+                 static_cast<ssize_t>(data.size()));
+        ::close(fd);
+
+        const auto result = scan(dir.path());
+        ::unlink(badName.constData()); // QTemporaryDir cannot name it to remove it
+        QVERIFY(result->last().complete);
+        QCOMPARE(result->last().groups.size(), 1);
+        const GroupRecord group = *result->last().groups.find(result->liveKeys().first());
+        QCOMPARE(group.filePath, (QStringList{dir.filePath(QStringLiteral("a/one.dat")),
+                                              dir.filePath(QStringLiteral("b/one.dat"))}));
+    }
+
+    void fileVanishingBeforeItsFingerprint()
+    {
+        TestDir dir;
+        for (const char *name : {"a.dat", "b.dat", "c.dat"})
+            dir.createPatternFile(QString::fromLatin1(name), kBig, 91);
+        RecordingDelegate delegate;
+        delegate.onReport = [&dir](const Report &report) {
+            if (!report.complete)
+                dir.removeFile(QStringLiteral("c.dat"));
+        };
+        BRDuplicateFinderClass finder(&delegate);
+        finder.findDuplicatesInFolder(dir.path());
+        QVERIFY(delegate.last().complete);
+        QCOMPARE(delegate.last().groups.find(delegate.liveKeys().first())->filePath.size(), 2);
+        QCOMPARE(delegate.last().totalDuplicates, 2);
+    }
+
+    void unreadableFilesAndFoldersAreNotDuplicates()
+    {
+        TestDir dir;
+        dir.createPatternFile(QStringLiteral("a/x.dat"), kBig, 101);
+        dir.createPatternFile(QStringLiteral("a/y.dat"), kBig, 101);
+        dir.createPatternFile(QStringLiteral("b/x.dat"), kBig, 102);
+        dir.createPatternFile(QStringLiteral("b/y.dat"), kBig, 103);
+        dir.createPatternFile(QStringLiteral("c/shut.dat"), kBig, 104);
+        dir.createPatternFile(QStringLiteral("d/open.dat"), kBig, 104);
+        for (const char *path : {"a/x.dat", "a/y.dat", "b/x.dat", "b/y.dat"})
+            QFile::setPermissions(dir.filePath(QString::fromLatin1(path)), QFileDevice::WriteOwner);
+        QFile::setPermissions(dir.filePath(QStringLiteral("c")), QFileDevice::WriteOwner);
+        const QString root = dir.path();
+        // Exit status: the number of groups, or 200 when the scan did not finish.
+        const int groups = runWithoutPrivileges(root, [root] {
+            RecordingDelegate delegate;
+            BRDuplicateFinderClass finder(&delegate);
+            finder.findDuplicatesInFolder(root);
+            return delegate.reports.isEmpty() || !delegate.last().complete
+                       ? 200
+                       : static_cast<int>(delegate.last().groups.size());
+        });
+        QFile::setPermissions(dir.filePath(QStringLiteral("c")),
+                              QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                  QFileDevice::ExeOwner);
+        QCOMPARE(groups, 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDuplicateFinder)
+#include "tst_duplicatefinder.moc"
