@@ -14,8 +14,9 @@
 // they hold, symbolic links are never followed, and an entry whose name is not valid
 // UTF-8 is passed over, since it could not be named again exactly from a QString.
 //
-// Each folder is read whole when the walk enters it and closed at once, so the walk
-// holds no file descriptor between calls and any depth of tree can be walked.
+// Each folder is read whole when the walk enters it. Its descriptor stays open while the
+// walk is inside it, so that subfolders open by name relative to it rather than by a
+// full path; where descriptors run short, a subfolder opens by its full path instead.
 class DirectoryEnumerator
 {
 public:
@@ -40,6 +41,12 @@ private:
     };
     struct OpenFolder
     {
+        OpenFolder() = default;
+        OpenFolder(OpenFolder &&other) noexcept;
+        OpenFolder &operator=(OpenFolder &&other) noexcept;
+        ~OpenFolder();
+
+        int descriptor = -1;
         QByteArray nativePath;
         QString path;
         std::vector<ListedEntry> entries;
@@ -47,10 +54,16 @@ private:
     };
 
     DirectoryEnumerator() = default;
-    static std::optional<OpenFolder> readFolder(const QByteArray &nativePath, const QString &path,
-                                                bool followLink);
+    static std::optional<OpenFolder> readFolder(int descriptor, const QByteArray &nativePath,
+                                                const QString &path);
 
     QString m_rootPath;
     std::vector<OpenFolder> m_openFolders;
-    std::optional<std::pair<QByteArray, QString>> m_folderToEnter;
+    struct FolderToEnter
+    {
+        QByteArray nativeName;
+        QByteArray nativePath;
+        QString path;
+    };
+    std::optional<FolderToEnter> m_folderToEnter;
 };

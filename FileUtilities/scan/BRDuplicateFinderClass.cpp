@@ -90,7 +90,7 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
         }
 
         const qint64 size = entry->size;
-        recordFileInFolder(parent, entryPath);
+        recordFileInFolder(parent, *entry);
         if (previousFolderPath) {
             if (entryPath.contains(*previousFolderPath)) {
                 addSizeToCurrentFolder(size);
@@ -101,7 +101,7 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
                 addSizeToCurrentFolder(size);
             }
         }
-        checkForDuplicateFile(name, size, entryPath);
+        checkForDuplicateFile(*entry, name, size, entryPath);
     }
 
     if (m_stackOfArray.count() > 0)
@@ -113,18 +113,23 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
 
 // Counts a file in its folder's record; each folder fingerprints only its first readable
 // file here.
-void BRDuplicateFinderClass::recordFileInFolder(const QString &parent, const QString &filePath)
+VideoHash BRDuplicateFinderClass::fingerprintOf(const DirectoryEntry &file)
+{
+    return m_oshash.hashForFileInFolder(file.folderDescriptor, file.nativeName, file.path);
+}
+
+void BRDuplicateFinderClass::recordFileInFolder(const QString &parent, const DirectoryEntry &file)
 {
     auto record = m_fileDict.find(parent);
     if (record == m_fileDict.end()) {
-        const QString hash = m_oshash.hashForFileAtPath(filePath).fileHash;
+        const QString hash = fingerprintOf(file).fileHash;
         m_fileDict.insert(parent, FolderRecord{1, 0, hash, hash});
         return;
     }
     QString firstHash = record->firstHash;
     QString lastHash = record->lastHash;
     if (firstHash.isEmpty() || lastHash.isEmpty()) {
-        firstHash = m_oshash.hashForFileAtPath(filePath).fileHash;
+        firstHash = fingerprintOf(file).fileHash;
         lastHash = firstHash;
     }
     *record = FolderRecord{record->fileCount + 1, 0, firstHash, lastHash};
@@ -139,7 +144,8 @@ void BRDuplicateFinderClass::addSizeToCurrentFolder(qint64 size)
     m_stackOfArray.push(std::move(top));
 }
 
-void BRDuplicateFinderClass::checkForDuplicateFile(const QString &fileName, qint64 fileSize,
+void BRDuplicateFinderClass::checkForDuplicateFile(const DirectoryEntry &entry,
+                                                   const QString &fileName, qint64 fileSize,
                                                    const QString &filePath)
 {
     if (fileSize < smallestComparedFileSize)
@@ -163,7 +169,7 @@ void BRDuplicateFinderClass::checkForDuplicateFile(const QString &fileName, qint
     // Each newcomer is compared with the bucket's first file only, and fingerprints are
     // taken anew each time: they are cheap, and caching them would cost memory per file.
     const VideoHash reference = m_oshash.hashForFileAtPath(paths.first());
-    const VideoHash candidate = m_oshash.hashForFileAtPath(filePath);
+    const VideoHash candidate = fingerprintOf(entry);
     // Two files that could not be read are not known to be equal.
     if (candidate.fileHash.isEmpty() || reference.fileHash != candidate.fileHash)
         return;

@@ -71,7 +71,8 @@ public:
     Stack<StackEntry> stackOfArray() const;
 
 private:
-    void checkForDuplicateFile(const QString &fileName, qint64 fileSize, const QString &filePath);
+    void checkForDuplicateFile(const DirectoryEntry &entry, const QString &fileName,
+                               qint64 fileSize, const QString &filePath);
     void closeFolders(const QString &parentPath, const QString &lastFilePath);
     void checkForDuplicateFolder(const QString &folderName, const QString &folderType,
                                  const QString &folderPath, qint64 folderSize,
@@ -83,7 +84,8 @@ private:
                                const QString &fileName, const QStringList &filePaths,
                                const QString &oldKey, const Thumbnail &thumbNail,
                                const QString &fileUTI, qint64 totalSize);
-    void recordFileInFolder(const QString &parent, const QString &filePath);
+    void recordFileInFolder(const QString &parent, const DirectoryEntry &file);
+    VideoHash fingerprintOf(const DirectoryEntry &file);
     // Reports outside the lock, so that a receiver may call back into the finder.
     void report(QMutexLocker<QMutex> &locker, bool completeStatus, const QString &key);
 
