@@ -2,22 +2,32 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringView>
 
 // One entry of a folder walk, with what the scan needs already read by a single lstat.
 struct DirectoryEntry
 {
     enum class Kind { Folder, File };
 
-    QString path; // absolute, no trailing slash
-    QString name; // last path component
+    QString path;       // absolute, no trailing slash
+    QString folderPath; // the path without its last component, shared by a folder's entries
     Kind kind = Kind::File;
     qint64 size = 0; // lstat size: a symbolic link counts as the link itself
 
     // The name as the file system spells it, and a descriptor of the folder holding the
-    // entry, valid until the walk moves on (-1 when the walk has none): opening the entry
-    // relative to it spares the kernel a lookup of the whole path.
+    // entry, both valid until the walk moves on (-1 when the walk has none): opening the
+    // entry relative to the folder spares the kernel a lookup of the whole path.
     QByteArray nativeName;
     int folderDescriptor = -1;
 
     bool isDirectory() const { return kind == Kind::Folder; }
+    // The last path component, taken from the path so that the walk need not keep it apart.
+    QStringView nameView() const;
+    QString name() const { return nameView().toString(); }
 };
+
+inline QStringView DirectoryEntry::nameView() const
+{
+    const qsizetype start = folderPath.size() == 1 ? 1 : folderPath.size() + 1;
+    return QStringView(path).mid(start);
+}

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <string_view>
 #include <utility>
 
 #include <dirent.h>
@@ -16,45 +17,55 @@
 
 namespace {
 
-QByteArray joinNative(const QByteArray &folder, const QByteArray &name)
-{
-    return folder == "/" ? QByteArray("/") + name : folder + '/' + name;
-}
-
-QString joinPath(const QString &folder, const QString &name)
-{
-    return folder == QLatin1String("/") ? QLatin1Char('/') + name : folder + QLatin1Char('/') + name;
-}
-
-bool isPlainAscii(const char *name, size_t length)
+bool isPlainAscii(const char *name, qsizetype length)
 {
     return std::all_of(name, name + length,
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-// A name that does not decode to UTF-8 and back unchanged cannot be named again exactly.
-std::optional<QString> decodedName(const char *name, size_t length)
+// A name that does not decode from UTF-8 and back unchanged cannot be named again exactly.
+bool survivesDecoding(const char *name, qsizetype length)
 {
-    const QByteArray native(name, static_cast<qsizetype>(length));
-    QString decoded = QFile::decodeName(native);
-    if (!isPlainAscii(name, length) && QFile::encodeName(decoded) != native)
-        return std::nullopt;
-    return decoded;
+    if (isPlainAscii(name, length))
+        return true;
+    const QByteArray native = QByteArray::fromRawData(name, length);
+    return QFile::encodeName(QFile::decodeName(native)) == native;
+}
+
+// The folder's path and a name, joined with one slash (the root already ends in one).
+void appendChildPath(const QString &folder, QLatin1StringView name, QString &out)
+{
+    out.reserve(folder.size() + 1 + name.size());
+    out += folder;
+    if (folder.size() != 1)
+        out += QLatin1Char('/');
+    out += name;
+}
+
+void appendChildPath(const QString &folder, const QString &name, QString &out)
+{
+    out.reserve(folder.size() + 1 + name.size());
+    out += folder;
+    if (folder.size() != 1)
+        out += QLatin1Char('/');
+    out += name;
+}
+
+void appendChildPath(const QByteArray &folder, const QByteArray &name, QByteArray &out)
+{
+    out.reserve(folder.size() + 1 + name.size());
+    out += folder;
+    if (folder.size() != 1)
+        out += '/';
+    out += name;
 }
 
 } // namespace
 
-QString DirectoryEnumerator::absoluteFolderPath(const QString &path)
-{
-    QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    while (absolute.size() > 1 && absolute.endsWith(QLatin1Char('/')))
-        absolute.chop(1);
-    return absolute;
-}
-
 DirectoryEnumerator::OpenFolder::OpenFolder(OpenFolder &&other) noexcept
     : descriptor(std::exchange(other.descriptor, -1)), nativePath(std::move(other.nativePath)),
-      path(std::move(other.path)), entries(std::move(other.entries)), next(other.next)
+      path(std::move(other.path)), names(std::move(other.names)),
+      entries(std::move(other.entries)), next(other.next)
 {
 }
 
@@ -67,6 +78,7 @@ DirectoryEnumerator::OpenFolder::operator=(OpenFolder &&other) noexcept
         descriptor = std::exchange(other.descriptor, -1);
         nativePath = std::move(other.nativePath);
         path = std::move(other.path);
+        names = std::move(other.names);
         entries = std::move(other.entries);
         next = other.next;
     }
@@ -77,6 +89,14 @@ DirectoryEnumerator::OpenFolder::~OpenFolder()
 {
     if (descriptor >= 0)
         ::close(descriptor);
+}
+
+QString DirectoryEnumerator::absoluteFolderPath(const QString &path)
+{
+    QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    while (absolute.size() > 1 && absolute.endsWith(QLatin1Char('/')))
+        absolute.chop(1);
+    return absolute;
 }
 
 std::optional<DirectoryEnumerator> DirectoryEnumerator::open(const QString &rootPath)
@@ -119,22 +139,26 @@ DirectoryEnumerator::readFolder(int fd, const QByteArray &nativePath, const QStr
             const char *name = raw->d_name;
             if (name[0] == '.')
                 continue; // hidden, and "." and ".."
-            const size_t length = std::strlen(name);
-            auto decoded = decodedName(name, length);
-            if (!decoded)
+            const auto length = static_cast<qsizetype>(std::strlen(name));
+            if (!survivesDecoding(name, length))
                 continue;
             struct stat info {};
             if (::fstatat(fd, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
                 continue; // vanished since it was listed
             const auto kind =
                 S_ISDIR(info.st_mode) ? DirectoryEntry::Kind::Folder : DirectoryEntry::Kind::File;
-            folder.entries.push_back({QByteArray(name, static_cast<qsizetype>(length)),
-                                      std::move(*decoded), kind, static_cast<qint64>(info.st_size)});
+            folder.entries.push_back(
+                {folder.names.size(), length, kind, static_cast<qint64>(info.st_size)});
+            folder.names.append(name, length + 1); // with its NUL, for openat
         }
     }
 
+    const char *names = folder.names.constData();
+    const auto nameOf = [names](const ListedEntry &entry) {
+        return std::string_view(names + entry.nameOffset, static_cast<size_t>(entry.nameLength));
+    };
     std::sort(folder.entries.begin(), folder.entries.end(),
-              [](const ListedEntry &a, const ListedEntry &b) { return a.nativeName < b.nativeName; });
+              [&nameOf](const ListedEntry &a, const ListedEntry &b) { return nameOf(a) < nameOf(b); });
     return folder;
 }
 
@@ -166,13 +190,24 @@ std::optional<DirectoryEntry> DirectoryEnumerator::nextEntry()
             m_openFolders.pop_back();
             continue;
         }
-        ListedEntry &listed = folder.entries[folder.next++];
-        DirectoryEntry entry{joinPath(folder.path, listed.name), std::move(listed.name),
-                             listed.kind, listed.size, listed.nativeName, folder.descriptor};
-        if (entry.isDirectory())
-            m_folderToEnter = FolderToEnter{listed.nativeName,
-                                            joinNative(folder.nativePath, listed.nativeName),
-                                            entry.path};
+        const ListedEntry &listed = folder.entries[folder.next++];
+        const char *rawName = folder.names.constData() + listed.nameOffset;
+        DirectoryEntry entry;
+        entry.nativeName = QByteArray::fromRawData(rawName, listed.nameLength);
+        if (isPlainAscii(rawName, listed.nameLength))
+            appendChildPath(folder.path, QLatin1StringView(rawName, listed.nameLength), entry.path);
+        else
+            appendChildPath(folder.path, QString::fromUtf8(entry.nativeName), entry.path);
+        entry.folderPath = folder.path;
+        entry.kind = listed.kind;
+        entry.size = listed.size;
+        entry.folderDescriptor = folder.descriptor;
+        if (entry.isDirectory()) {
+            QByteArray nativePath;
+            appendChildPath(folder.nativePath, entry.nativeName, nativePath);
+            m_folderToEnter = FolderToEnter{QByteArray(rawName, listed.nameLength),
+                                            std::move(nativePath), entry.path};
+        }
         return entry;
     }
     return std::nullopt;

@@ -34,8 +34,8 @@ public:
 private:
     struct ListedEntry
     {
-        QByteArray nativeName;
-        QString name;
+        qsizetype nameOffset; // into the folder's names, where each name ends with a NUL
+        qsizetype nameLength;
         DirectoryEntry::Kind kind;
         qint64 size;
     };
@@ -49,6 +49,7 @@ private:
         int descriptor = -1;
         QByteArray nativePath;
         QString path;
+        QByteArray names; // all names of the folder in one allocation
         std::vector<ListedEntry> entries;
         size_t next = 0;
     };

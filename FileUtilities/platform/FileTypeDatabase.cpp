@@ -5,13 +5,11 @@
 FileTypeDatabase::FileType FileTypeDatabase::typeForFileName(const QString &fileName) const
 {
     const QMimeType type = m_mimeDatabase.mimeTypeForFile(fileName, QMimeDatabase::MatchExtension);
-    FileType result;
-    result.identifier = type.name();
-    auto known = m_descriptionByIdentifier.constFind(result.identifier);
-    if (known == m_descriptionByIdentifier.constEnd())
-        known = m_descriptionByIdentifier.insert(result.identifier, type.comment());
-    result.description = *known;
-    return result;
+    auto known = m_typeByIdentifier.constFind(type.name());
+    if (known == m_typeByIdentifier.constEnd())
+        known = m_typeByIdentifier.insert(type.name(), FileType{type.comment(), type.name()});
+    // The remembered texts are shared by every record of the type, not copied into each.
+    return *known;
 }
 
 QString FileTypeDatabase::folderDescription()

@@ -24,5 +24,5 @@ public:
 private:
     QMimeDatabase m_mimeDatabase;
     // The comment of a MIME type is looked up in the database's XML; keep each one found.
-    mutable QHash<QString, QString> m_descriptionByIdentifier;
+    mutable QHash<QString, FileType> m_typeByIdentifier;
 };

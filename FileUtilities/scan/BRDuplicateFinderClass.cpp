@@ -40,6 +40,22 @@ BRDuplicateFinderClass::directoryEnumeratorForPath(const QString &path)
     return DirectoryEnumerator::open(path);
 }
 
+// ".app" holds no slash, so it lies within the folder path or within the name.
+bool BRDuplicateFinderClass::pathHasApplicationMarker(const DirectoryEntry &entry)
+{
+    if (!entry.folderPath.isSharedWith(m_markerCheckedFolder)) {
+        m_markerCheckedFolder = entry.folderPath;
+        m_folderHasMarker = entry.folderPath.contains(applicationMarker);
+    }
+    return m_folderHasMarker || entry.nameView().contains(applicationMarker);
+}
+
+// A substring test; the walk mostly asks about paths that begin with the text.
+bool BRDuplicateFinderClass::pathContains(const QString &path, const QString &text)
+{
+    return path.startsWith(text) || path.contains(text);
+}
+
 QString BRDuplicateFinderClass::deletingLastPathComponent(const QString &path)
 {
     const qsizetype slash = path.lastIndexOf(u'/');
@@ -68,19 +84,19 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
         }
         const QString &entryPath = entry->path;
         // Application bundles are skipped entry by entry, by a plain substring test.
-        if (entryPath.contains(applicationMarker) || entryPath.isEmpty())
+        if (pathHasApplicationMarker(*entry) || entryPath.isEmpty())
             continue;
 
-        const QString &name = entry->name;
-        const QString parent = deletingLastPathComponent(entryPath);
+        const QString &parent = entry->folderPath;
         if (entry->isDirectory()) {
+            const QString name = entry->name();
             const QString folderType = FileTypeDatabase::folderDescription();
             if (!m_fileDict.contains(parent))
                 m_fileDict.insert(parent, FolderRecord{});
-            StackEntry folderEntry{name, entryPath, QStringLiteral("0"), folderType};
+            StackEntry folderEntry{name, entryPath, 0, folderType};
             // A path that does not contain the previous folder's path has left it: close
             // what is open above this folder's parent first.
-            if (previousFolderPath && !entryPath.contains(*previousFolderPath)) {
+            if (previousFolderPath && !pathContains(entryPath, *previousFolderPath)) {
                 closeFolders(parent, lastFilePath);
                 lastFilePath.clear();
             }
@@ -92,7 +108,7 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
         const qint64 size = entry->size;
         recordFileInFolder(parent, *entry);
         if (previousFolderPath) {
-            if (entryPath.contains(*previousFolderPath)) {
+            if (pathContains(entryPath, *previousFolderPath)) {
                 addSizeToCurrentFolder(size);
                 lastFilePath = entryPath;
             } else {
@@ -101,7 +117,7 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
                 addSizeToCurrentFolder(size);
             }
         }
-        checkForDuplicateFile(*entry, name, size, entryPath);
+        checkForDuplicateFile(*entry, size, entryPath);
     }
 
     if (m_stackOfArray.count() > 0)
@@ -139,17 +155,15 @@ void BRDuplicateFinderClass::addSizeToCurrentFolder(qint64 size)
 {
     if (size <= 0 || m_stackOfArray.count() == 0)
         return;
-    StackEntry top = m_stackOfArray.pop();
-    top[StackEntryIndex::size] = QString::number(top[StackEntryIndex::size].toLongLong() + size);
-    m_stackOfArray.push(std::move(top));
+    m_stackOfArray.items.last().size += size;
 }
 
-void BRDuplicateFinderClass::checkForDuplicateFile(const DirectoryEntry &entry,
-                                                   const QString &fileName, qint64 fileSize,
+void BRDuplicateFinderClass::checkForDuplicateFile(const DirectoryEntry &entry, qint64 fileSize,
                                                    const QString &filePath)
 {
     if (fileSize < smallestComparedFileSize)
         return;
+    const QString fileName = entry.name();
     const FileTypeDatabase::FileType type = m_types.typeForFileName(fileName);
     if (type.description.isEmpty())
         return;
@@ -208,7 +222,7 @@ void BRDuplicateFinderClass::closeFolders(const QString &parentPath, const QStri
     qint64 runningTotal = 0;
     for (qsizetype i = top; i >= 0; --i) {
         StackEntry entry = m_stackOfArray.items.at(i);
-        const QString &path = entry[StackEntryIndex::path];
+        const QString &path = entry.path;
         if (path == parentPath)
             break;
 
@@ -221,13 +235,12 @@ void BRDuplicateFinderClass::closeFolders(const QString &parentPath, const QStri
                                        parent->firstHash, parent->lastHash};
         }
 
-        runningTotal += entry[StackEntryIndex::size].toLongLong();
+        runningTotal += entry.size;
         m_stackOfArray.items.removeAt(i);
         // A folder below the top holds everything closed above it in this call.
         if (i < top)
-            entry[StackEntryIndex::size] = QString::number(runningTotal);
-        checkForDuplicateFolder(entry[StackEntryIndex::name], entry[StackEntryIndex::type], path,
-                                entry[StackEntryIndex::size].toLongLong(), lastFilePath);
+            entry.size = runningTotal;
+        checkForDuplicateFolder(entry.name, entry.type, path, entry.size, lastFilePath);
     }
     addSizeToCurrentFolder(runningTotal);
 }

@@ -71,8 +71,8 @@ public:
     Stack<StackEntry> stackOfArray() const;
 
 private:
-    void checkForDuplicateFile(const DirectoryEntry &entry, const QString &fileName,
-                               qint64 fileSize, const QString &filePath);
+    void checkForDuplicateFile(const DirectoryEntry &entry, qint64 fileSize,
+                               const QString &filePath);
     void closeFolders(const QString &parentPath, const QString &lastFilePath);
     void checkForDuplicateFolder(const QString &folderName, const QString &folderType,
                                  const QString &folderPath, qint64 folderSize,
@@ -89,6 +89,8 @@ private:
     // Reports outside the lock, so that a receiver may call back into the finder.
     void report(QMutexLocker<QMutex> &locker, bool completeStatus, const QString &key);
 
+    bool pathHasApplicationMarker(const DirectoryEntry &entry);
+    static bool pathContains(const QString &path, const QString &text);
     static QString deletingLastPathComponent(const QString &path);
 
     // Guards dict, dictOfDupeFiles and the totals against the results screen's edits.
@@ -108,5 +110,7 @@ private:
     BRDuplicateFilesViewDelegate *m_delegate;
 
     FileTypeDatabase m_types;
+    QString m_markerCheckedFolder; // the folder path whose ".app" test is remembered
+    bool m_folderHasMarker = false;
     std::shared_ptr<ThumbnailCache> m_thumbnails;
 };

@@ -2,14 +2,11 @@
 
 #include <QString>
 
-#include <array>
-
-// An open folder on the scan's stack: four texts, read by position.
-using StackEntry = std::array<QString, 4>;
-
-namespace StackEntryIndex {
-constexpr size_t name = 0;
-constexpr size_t path = 1;
-constexpr size_t size = 2; // decimal text
-constexpr size_t type = 3;
-} // namespace StackEntryIndex
+// A folder that is open on the scan's stack: the walk is still inside it.
+struct StackEntry
+{
+    QString name; // last path component
+    QString path;
+    qint64 size = 0; // total size of what the walk has seen inside so far
+    QString type;    // the folder's type text
+};
