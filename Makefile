@@ -5,7 +5,8 @@
 
 BUILD_DIR ?= build
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
-QUILLMERE_WERROR ?= OFF
+# CI sets QUILLMERE_WERROR=ON; otherwise the build folder keeps the setting it has.
+CMAKE_OPTIONS := $(if $(QUILLMERE_WERROR),-DQUILLMERE_WERROR=$(QUILLMERE_WERROR))
 
 .PHONY: run test build configure deps bench format clean
 
@@ -19,7 +20,7 @@ build: configure
 	cmake --build $(BUILD_DIR) --parallel $(JOBS)
 
 configure: deps
-	cmake -S . -B $(BUILD_DIR) -DQUILLMERE_WERROR=$(QUILLMERE_WERROR)
+	cmake -S . -B $(BUILD_DIR) $(CMAKE_OPTIONS)
 
 deps:
 	@tools/install-deps.sh

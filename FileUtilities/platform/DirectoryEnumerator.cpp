@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStringDecoder>
 
 #include <algorithm>
 #include <cerrno>
@@ -23,13 +24,21 @@ bool isPlainAscii(const char *name, qsizetype length)
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
+// A leading U+FEFF is part of a file name, not a byte-order mark to drop as
+// QFile::decodeName does.
+QString decodeName(const QByteArray &native)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(native);
+}
+
 // A name that does not decode from UTF-8 and back unchanged cannot be named again exactly.
 bool survivesDecoding(const char *name, qsizetype length)
 {
     if (isPlainAscii(name, length))
         return true;
     const QByteArray native = QByteArray::fromRawData(name, length);
-    return QFile::encodeName(QFile::decodeName(native)) == native;
+    return QFile::encodeName(decodeName(native)) == native;
 }
 
 // The folder's path and a name, joined with one slash (the root already ends in one).
@@ -197,7 +206,7 @@ std::optional<DirectoryEntry> DirectoryEnumerator::nextEntry()
         if (isPlainAscii(rawName, listed.nameLength))
             appendChildPath(folder.path, QLatin1StringView(rawName, listed.nameLength), entry.path);
         else
-            appendChildPath(folder.path, QString::fromUtf8(entry.nativeName), entry.path);
+            appendChildPath(folder.path, decodeName(entry.nativeName), entry.path);
         entry.folderPath = folder.path;
         entry.kind = listed.kind;
         entry.size = listed.size;

@@ -2,8 +2,10 @@
 #include "TestDir.h"
 
 #include <QFile>
+#include <QImage>
 #include <QTest>
 
+#include <cstring>
 #include <functional>
 
 #include <fcntl.h>
@@ -95,85 +97,86 @@ private:
         return delegate;
     }
 
-private Q_SLOTS:
-    void sizeLimitForFiles_data()
+    // Builds a tree from "path:size:seed" lines: equal sizes and seeds make equal files.
+    static void build(TestDir &dir, const QStringList &layout)
     {
-        QTest::addColumn<qint64>("size");
-        QTest::addColumn<int>("groups");
-        QTest::newRow("65536 bytes is too small") << qint64(65536) << 0;
-        QTest::newRow("65537 bytes is compared") << qint64(65537) << 1;
-    }
-    void sizeLimitForFiles()
-    {
-        QFETCH(qint64, size);
-        QFETCH(int, groups);
-        TestDir dir;
-        dir.createPatternFile(QStringLiteral("a.bin"), size, 1);
-        dir.createPatternFile(QStringLiteral("b.bin"), size, 1);
-        const auto result = scan(dir.path());
-        QCOMPARE(result->last().groups.size(), groups);
-        QVERIFY(result->last().complete);
+        for (const QString &line : layout) {
+            const QStringList parts = line.split(u':');
+            dir.createPatternFile(parts[0], parts[1].toLongLong(), parts[2].toUInt());
+        }
     }
 
-    void emptyTreeGivesOneFinalReport()
+private Q_SLOTS:
+    void whatMatches_data()
     {
+        QTest::addColumn<QStringList>("layout");
+        QTest::addColumn<int>("groups");
+        QTest::addColumn<QStringList>("firstGroup"); // paths of the first group reported
+        const auto strings = [](std::initializer_list<const char *> texts) {
+            QStringList list;
+            for (const char *text : texts)
+                list.append(QString::fromLatin1(text));
+            return list;
+        };
+        const auto rows = [&strings](const char *name, std::initializer_list<const char *> layout,
+                                     int groups, std::initializer_list<const char *> first = {}) {
+            QTest::newRow(name) << strings(layout) << groups << strings(first);
+        };
+        rows("files of 65536 bytes are too small", {"a.bin:65536:1", "b.bin:65536:1"}, 0);
+        rows("files of 65537 bytes are compared", {"a.bin:65537:1", "b.bin:65537:1"}, 1);
+        rows("equal bytes of different types", {"a.png:100000:7", "b.jpg:100000:7"}, 0);
+        // Each newcomer is compared with the first file of its size and type only.
+        rows("b equals c but not a", {"a.dat:100000:1", "b.dat:100000:2", "c.dat:100000:2"}, 0);
+        rows("a equals c, b differs", {"a.dat:100000:1", "b.dat:100000:2", "c.dat:100000:1"}, 1,
+             {"a.dat", "c.dat"});
+        rows("folders of 65535 bytes are too small", {"A/f.dat:65535:9", "B/f.dat:65535:9"}, 0);
+        rows("folders of 65536 bytes are compared", {"A/f.dat:65536:9", "B/f.dat:65536:9"}, 1,
+             {"A", "B"});
+        rows("folders of one equal file each", {"A/x.dat:100000:3", "B/y.dat:100000:3"}, 2);
+        rows("files in the root only", {"a.dat:100000:5", "b.dat:100000:5"}, 1, {"a.dat", "b.dat"});
+        // Hidden entries and every path holding ".app" are never seen.
+        rows("skipped entries",
+             {"keep/a.dat:100000:4", "keep/.hidden.dat:100000:4", ".hidden/b.dat:100000:4",
+              "keep/x.app.bak:100000:4", "keep/y.app.bak:100000:4",
+              "My.app/Contents/c.dat:100000:4", "notes.apple/d.dat:100000:4"},
+             0);
+    }
+    void whatMatches()
+    {
+        QFETCH(QStringList, layout);
+        QFETCH(int, groups);
+        QFETCH(QStringList, firstGroup);
+        TestDir dir;
+        build(dir, layout);
+        const auto result = scan(dir.path());
+        QVERIFY(result->last().complete);
+        QCOMPARE(result->last().groups.size(), groups);
+        if (firstGroup.isEmpty())
+            return;
+        QStringList expected;
+        for (const QString &path : firstGroup)
+            expected.append(dir.filePath(path));
+        QCOMPARE(result->last().groups.find(result->liveKeys().first())->filePath, expected);
+    }
+
+    void scanWithoutGroupsEndsWithOneReport_data()
+    {
+        QTest::addColumn<bool>("readable");
+        QTest::newRow("nothing to match") << true;
+        QTest::newRow("folder that cannot be read") << false;
+    }
+    void scanWithoutGroupsEndsWithOneReport()
+    {
+        QFETCH(bool, readable);
         TestDir dir;
         dir.createFile(QStringLiteral("small.txt"), "hello");
-        const auto result = scan(dir.path());
+        const auto result = scan(readable ? dir.path() : dir.filePath(QStringLiteral("none")));
         QCOMPARE(result->reports.size(), 1);
         QVERIFY(result->last().complete);
         QCOMPARE(result->last().key, QString());
         QVERIFY(result->last().groups.isEmpty());
         QCOMPARE(result->last().totalDuplicates, 0);
         QCOMPARE(result->last().totalDupesSize, 0);
-    }
-
-    void unreadableRootStillEndsWithFinalReport()
-    {
-        const auto result = scan(QStringLiteral("/nonexistent/quillmere/folder"));
-        QCOMPARE(result->reports.size(), 1);
-        QVERIFY(result->last().complete);
-    }
-
-    void differentTypeTextsNeverMatch()
-    {
-        TestDir dir;
-        dir.createPatternFile(QStringLiteral("a.png"), kBig, 7);
-        dir.createPatternFile(QStringLiteral("b.jpg"), kBig, 7);
-        QVERIFY(scan(dir.path())->last().groups.isEmpty());
-    }
-
-    // Each newcomer is compared with its bucket's first file only.
-    void bucketReferenceIsTheFirstFile_data()
-    {
-        QTest::addColumn<QList<quint32>>("seeds"); // contents of a, b, c in walk order
-        QTest::addColumn<QStringList>("grouped");
-        QTest::newRow("b equals c, not a") << QList<quint32>{1, 2, 2} << QStringList{};
-        QTest::newRow("a equals c, b differs")
-            << QList<quint32>{1, 2, 1} << QStringList{QStringLiteral("a.dat"), QStringLiteral("c.dat")};
-        QTest::newRow("all equal") << QList<quint32>{3, 3, 3}
-                                   << QStringList{QStringLiteral("a.dat"), QStringLiteral("b.dat"),
-                                                  QStringLiteral("c.dat")};
-    }
-    void bucketReferenceIsTheFirstFile()
-    {
-        QFETCH(QList<quint32>, seeds);
-        QFETCH(QStringList, grouped);
-        TestDir dir;
-        const QStringList names{QStringLiteral("a.dat"), QStringLiteral("b.dat"),
-                                QStringLiteral("c.dat")};
-        for (int i = 0; i < 3; ++i)
-            dir.createPatternFile(names[i], kBig, seeds[i]);
-        const GroupMap groups = scan(dir.path())->last().groups;
-        if (grouped.isEmpty()) {
-            QVERIFY(groups.isEmpty());
-            return;
-        }
-        QCOMPARE(groups.size(), 1);
-        QStringList expected;
-        for (const QString &name : grouped)
-            expected.append(dir.filePath(name));
-        QCOMPARE(groups.find(groups.keys().first())->filePath, expected);
     }
 
     void threeCopiesReportTwiceWithTotals()
@@ -205,6 +208,22 @@ private Q_SLOTS:
         QCOMPARE(result->last().totalDupesSize, 2 * kBig);
     }
 
+    // The scan only keeps a handle; the picture is decoded when someone looks at it.
+    void thumbnailIsAPictureOfTheFormingCopy()
+    {
+        QImage picture(300, 150, QImage::Format_RGB32);
+        const QByteArray noise = TestDir::pattern(300 * 150 * 4, 111);
+        std::memcpy(picture.bits(), noise.constData(), static_cast<size_t>(noise.size()));
+        TestDir dir;
+        QVERIFY(picture.save(dir.filePath(QStringLiteral("a.png"))));
+        QVERIFY(QFile::copy(dir.filePath(QStringLiteral("a.png")),
+                            dir.filePath(QStringLiteral("b.png"))));
+        const auto result = scan(dir.path());
+        const GroupRecord group = *result->last().groups.find(result->liveKeys().first());
+        QCOMPARE(group.thumbNail.path(), dir.filePath(QStringLiteral("b.png")));
+        QCOMPARE(group.thumbNail.image().size(), QSize(70, 35));
+    }
+
     void equalFoldersFormAGroupAfterTheirFiles()
     {
         TestDir dir;
@@ -230,37 +249,6 @@ private Q_SLOTS:
         // Files in the duplicate folders count in their own groups and in the folder's.
         QCOMPARE(result->last().totalDuplicates, 6);
         QCOMPARE(result->last().totalDupesSize, 4 * kBig);
-    }
-
-    void foldersWithOneFileMatchOnEqualHashes()
-    {
-        TestDir dir;
-        dir.createPatternFile(QStringLiteral("A/x.dat"), kBig, 3);
-        dir.createPatternFile(QStringLiteral("B/y.dat"), kBig, 3);
-        const auto result = scan(dir.path());
-        const auto &finder = result->finder;
-        QCOMPARE(result->last().groups.size(), 2);
-        const FolderRecord record = finder->fileDict().value(dir.filePath(QStringLiteral("A")));
-        QCOMPARE(record.fileCount, 1);
-        QCOMPARE(record.firstHash, record.lastHash);
-        QCOMPARE(record.fileSize, kBig);
-    }
-
-    void folderSizeLimit_data()
-    {
-        QTest::addColumn<qint64>("size");
-        QTest::addColumn<int>("groups");
-        QTest::newRow("65535 bytes is too small") << qint64(65535) << 0;
-        QTest::newRow("65536 bytes is compared") << qint64(65536) << 1;
-    }
-    void folderSizeLimit()
-    {
-        QFETCH(qint64, size);
-        QFETCH(int, groups);
-        TestDir dir;
-        dir.createPatternFile(QStringLiteral("A/f.dat"), size, 9);
-        dir.createPatternFile(QStringLiteral("B/f.dat"), size, 9);
-        QCOMPARE(scan(dir.path())->last().groups.size(), groups);
     }
 
     void folderOfOnlyASubfolderCountsItsEntries()
@@ -294,34 +282,6 @@ private Q_SLOTS:
         QCOMPARE(finder->fileDict().value(dir.filePath(QStringLiteral("A"))).fileSize, 140000);
     }
 
-    void skipRules()
-    {
-        TestDir dir;
-        dir.createPatternFile(QStringLiteral("keep/a.dat"), kBig, 41);
-        dir.createPatternFile(QStringLiteral("keep/.hidden.dat"), kBig, 41);
-        dir.createPatternFile(QStringLiteral(".hiddenfolder/b.dat"), kBig, 41);
-        dir.createPatternFile(QStringLiteral("keep/x.app.bak"), kBig, 41);
-        dir.createPatternFile(QStringLiteral("My.app/Contents/c.dat"), kBig, 41);
-        dir.createPatternFile(QStringLiteral("notes.apple/d.dat"), kBig, 41);
-        const auto result = scan(dir.path());
-        const auto &finder = result->finder;
-        QVERIFY(result->last().groups.isEmpty());
-        const FolderRecord keep = finder->fileDict().value(dir.filePath(QStringLiteral("keep")));
-        QCOMPARE(keep.fileCount, 1); // only a.dat: hidden and ".app" entries are never seen
-    }
-
-    void rootFilesLeaveTheStackEmpty()
-    {
-        TestDir dir;
-        dir.createPatternFile(QStringLiteral("a.dat"), kBig, 51);
-        dir.createPatternFile(QStringLiteral("b.dat"), kBig, 51);
-        const auto result = scan(dir.path());
-        const auto &finder = result->finder;
-        QCOMPARE(result->last().groups.size(), 1);
-        QCOMPARE(finder->fileDict().size(), 1); // only the root's own record
-        QCOMPARE(finder->fileDict().value(dir.path()).fileCount, 2);
-    }
-
     void cancelBetweenEntriesClearsEverything()
     {
         TestDir dir;
@@ -329,7 +289,9 @@ private Q_SLOTS:
             dir.createPatternFile(QStringLiteral("d%1/f.dat").arg(i), kBig, 61);
         RecordingDelegate delegate;
         BRDuplicateFinderClass finder(&delegate);
-        delegate.onReport = [&finder](const Report &) { finder.setCancelActive(true); };
+        delegate.onReport = [&finder](const Report &) {
+            finder.setCancelActive(true);
+        };
         finder.findDuplicatesInFolder(dir.path());
         QCOMPARE(delegate.reports.size(), 1);
         QVERIFY(!delegate.last().complete);
@@ -344,7 +306,8 @@ private Q_SLOTS:
         TestDir dir;
         for (int i = 0; i < 6; ++i) {
             dir.createPatternFile(QStringLiteral("x%1/a.dat").arg(i), kBig, 71);
-            dir.createPatternFile(QStringLiteral("x%1/b%2.jpg").arg(i).arg(i % 2), kBig + i % 2, 72);
+            dir.createPatternFile(QStringLiteral("x%1/b%2.jpg").arg(i).arg(i % 2), kBig + i % 2,
+                                  72);
         }
         QCOMPARE(scan(dir.path())->liveKeys(), scan(dir.path())->liveKeys());
     }
@@ -357,8 +320,8 @@ private Q_SLOTS:
         dir.createPatternFile(QStringLiteral("b/one.dat"), kBig, 81);
         QVERIFY(::mkfifo(QFile::encodeName(dir.filePath(QStringLiteral("a/pipe"))).constData(),
                          0600) == 0);
-        QVERIFY(QFile::link(dir.filePath(QStringLiteral("b")),
-                            dir.filePath(QStringLiteral("b/loop"))));
+        QVERIFY(
+            QFile::link(dir.filePath(QStringLiteral("b")), dir.filePath(QStringLiteral("b/loop"))));
         dir.createDir(QStringLiteral("c"));
         QVERIFY(QFile::link(dir.filePath(QStringLiteral("a/one.dat")),
                             dir.filePath(QStringLiteral("c/zlink.dat"))));
@@ -419,9 +382,9 @@ private Q_SLOTS:
                        ? 200
                        : static_cast<int>(delegate.last().groups.size());
         });
-        QFile::setPermissions(dir.filePath(QStringLiteral("c")),
-                              QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                  QFileDevice::ExeOwner);
+        QFile::setPermissions(dir.filePath(QStringLiteral("c")), QFileDevice::ReadOwner |
+                                                                     QFileDevice::WriteOwner |
+                                                                     QFileDevice::ExeOwner);
         QCOMPARE(groups, 0);
     }
 };
