@@ -42,16 +42,8 @@ bool survivesDecoding(const char *name, qsizetype length)
 }
 
 // The folder's path and a name, joined with one slash (the root already ends in one).
-void appendChildPath(const QString &folder, QLatin1StringView name, QString &out)
-{
-    out.reserve(folder.size() + 1 + name.size());
-    out += folder;
-    if (folder.size() != 1)
-        out += QLatin1Char('/');
-    out += name;
-}
-
-void appendChildPath(const QString &folder, const QString &name, QString &out)
+template <typename Name>
+void appendChildPath(const QString &folder, const Name &name, QString &out)
 {
     out.reserve(folder.size() + 1 + name.size());
     out += folder;

@@ -170,7 +170,6 @@ void BRDuplicateFinderClass::checkForDuplicateFile(const DirectoryEntry &entry, 
 
     QMutexLocker locker(&m_tablesMutex);
     const QString bucketKey = QString::number(fileSize) + type.description;
-    m_dupeIndex = bucketKey;
     const auto bucket = m_dict.constFind(bucketKey);
     if (bucket == m_dict.constEnd()) {
         storeBucket(fileSize, type.description, fileName, {filePath}, bucketKey);

@@ -96,11 +96,9 @@ private:
     // Guards dict, dictOfDupeFiles and the totals against the results screen's edits.
     mutable QMutex m_tablesMutex;
 
-    QHash<QString, QStringList> m_deletedFilesDict;
     GroupMap m_dictOfDupeFiles;
     QHash<QString, BucketRecord> m_dict;
     QHash<QString, FolderRecord> m_fileDict;
-    std::optional<QString> m_dupeIndex;
     std::atomic<bool> m_cancelActive{false};
     qint64 m_totalDupes = 0;
     qint64 m_totalDupesSize = 0;

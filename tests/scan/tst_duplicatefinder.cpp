@@ -1,4 +1,5 @@
 #include "BRDuplicateFinderClass.h"
+#include "ScanReportReceiver.h"
 #include "TestDir.h"
 
 #include <QFile>
@@ -24,7 +25,7 @@ struct Report
     qint64 totalDupesSize;
 };
 
-class RecordingDelegate final : public BRDuplicateFilesViewDelegate
+class RecordingDelegate final : public ScanReportReceiver
 {
 public:
     std::function<void(const Report &)> onReport;
@@ -38,18 +39,6 @@ public:
         if (onReport)
             onReport(reports.constLast());
     }
-    void updateAfterDelete(int, const QString &) override {}
-    void openURLData(int, const QString &) override {}
-    void showPopOverView(int) override {}
-    void showPopOverForView(QObject *) override {}
-    void closePopOver() override {}
-    void startScanProcess(const std::optional<QUrl> &) override {}
-    void startNewScanProcess() override {}
-    void sortMainType(const QString &, bool) override {}
-    void sortSubType(const QString &, const QString &) override {}
-    void cancelScanProcess() override {}
-    void updateScanStatus(bool) override {}
-
     const Report &last() const { return reports.constLast(); }
     QStringList liveKeys() const
     {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "BRDuplicateFilesViewDelegate.h"
+#include "ScanReportReceiver.h"
 
 #include <QSet>
 #include <QStringList>
@@ -10,7 +10,7 @@
 // Receives the scan's reports for the command-line tool: in JSON mode it writes each one
 // as it comes, and it keeps the final groups, their first-report order and the totals
 // for the readable listing.
-class CommandLineReporter final : public BRDuplicateFilesViewDelegate
+class CommandLineReporter final : public ScanReportReceiver
 {
 public:
     CommandLineReporter(std::FILE *output, bool json);
@@ -25,19 +25,6 @@ public:
     QStringList keysInDiscoveryOrder() const;
     qint64 totalDuplicates() const { return m_totalDuplicates; }
     qint64 totalDupesSize() const { return m_totalDupesSize; }
-
-    // The screen's requirements mean nothing on a command line.
-    void updateAfterDelete(int, const QString &) override {}
-    void openURLData(int, const QString &) override {}
-    void showPopOverView(int) override {}
-    void showPopOverForView(QObject *) override {}
-    void closePopOver() override {}
-    void startScanProcess(const std::optional<QUrl> &) override {}
-    void startNewScanProcess() override {}
-    void sortMainType(const QString &, bool) override {}
-    void sortSubType(const QString &, const QString &) override {}
-    void cancelScanProcess() override {}
-    void updateScanStatus(bool) override {}
 
 private:
     void writeLine(const QByteArray &line);
