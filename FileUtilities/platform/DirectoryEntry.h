@@ -7,7 +7,11 @@
 // One entry of a folder walk, with what the scan needs already read by a single lstat.
 struct DirectoryEntry
 {
-    enum class Kind { Folder, File };
+    enum class Kind
+    {
+        Folder,
+        File
+    };
 
     QString path;       // absolute, no trailing slash
     QString folderPath; // the path without its last component, shared by a folder's entries

@@ -42,8 +42,7 @@ bool survivesDecoding(const char *name, qsizetype length)
 }
 
 // The folder's path and a name, joined with one slash (the root already ends in one).
-template <typename Name>
-void appendChildPath(const QString &folder, const Name &name, QString &out)
+template <typename Name> void appendChildPath(const QString &folder, const Name &name, QString &out)
 {
     out.reserve(folder.size() + 1 + name.size());
     out += folder;
@@ -65,10 +64,9 @@ void appendChildPath(const QByteArray &folder, const QByteArray &name, QByteArra
 
 DirectoryEnumerator::OpenFolder::OpenFolder(OpenFolder &&other) noexcept
     : descriptor(std::exchange(other.descriptor, -1)), nativePath(std::move(other.nativePath)),
-      path(std::move(other.path)), names(std::move(other.names)),
-      entries(std::move(other.entries)), next(other.next)
-{
-}
+      path(std::move(other.path)), names(std::move(other.names)), entries(std::move(other.entries)),
+      next(other.next)
+{}
 
 DirectoryEnumerator::OpenFolder &
 DirectoryEnumerator::OpenFolder::operator=(OpenFolder &&other) noexcept
@@ -143,7 +141,9 @@ DirectoryEnumerator::readFolder(int fd, const QByteArray &nativePath, const QStr
             const auto length = static_cast<qsizetype>(std::strlen(name));
             if (!survivesDecoding(name, length))
                 continue;
-            struct stat info {};
+            struct stat info
+            {
+            };
             if (::fstatat(fd, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
                 continue; // vanished since it was listed
             const auto kind =
@@ -158,8 +158,9 @@ DirectoryEnumerator::readFolder(int fd, const QByteArray &nativePath, const QStr
     const auto nameOf = [names](const ListedEntry &entry) {
         return std::string_view(names + entry.nameOffset, static_cast<size_t>(entry.nameLength));
     };
-    std::sort(folder.entries.begin(), folder.entries.end(),
-              [&nameOf](const ListedEntry &a, const ListedEntry &b) { return nameOf(a) < nameOf(b); });
+    std::sort(
+        folder.entries.begin(), folder.entries.end(),
+        [&nameOf](const ListedEntry &a, const ListedEntry &b) { return nameOf(a) < nameOf(b); });
     return folder;
 }
 

@@ -5,8 +5,7 @@
 
 Thumbnail::Thumbnail(QString path, QSize size, std::shared_ptr<ThumbnailCache> cache)
     : m_path(std::move(path)), m_size(size), m_cache(std::move(cache))
-{
-}
+{}
 
 QImage Thumbnail::image() const
 {

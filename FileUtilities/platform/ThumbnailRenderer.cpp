@@ -42,7 +42,8 @@ QImage ThumbnailRenderer::render(const QString &path, QSize size)
 QImage ThumbnailRenderer::fromThumbnailCache(const QString &path, QSize size)
 {
     const QString cacheRoot =
-        QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + QStringLiteral("/thumbnails/");
+        QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+        QStringLiteral("/thumbnails/");
     const QByteArray uri = QUrl::fromLocalFile(path).toEncoded();
     const QString fileName =
         QString::fromLatin1(QCryptographicHash::hash(uri, QCryptographicHash::Md5).toHex()) +
@@ -70,7 +71,8 @@ QImage ThumbnailRenderer::fromImageFile(const QString &path, QSize size)
     if (!reader.canRead())
         return {};
     const QSize original = reader.size();
-    if (original.isValid() && (original.width() > size.width() || original.height() > size.height()))
+    if (original.isValid() &&
+        (original.width() > size.width() || original.height() > size.height()))
         reader.setScaledSize(original.scaled(size, Qt::KeepAspectRatio));
     return fitted(reader.read(), size);
 }

@@ -17,8 +17,7 @@ const QString applicationMarker = QStringLiteral(".app");
 
 BRDuplicateFinderClass::BRDuplicateFinderClass(BRDuplicateFilesViewDelegate *delegate)
     : m_delegate(delegate), m_thumbnails(std::make_shared<ThumbnailCache>())
-{
-}
+{}
 
 void BRDuplicateFinderClass::setCancelActive(bool value)
 {
@@ -264,8 +263,8 @@ void BRDuplicateFinderClass::checkForDuplicateFolder(const QString &folderName,
             record.lastHash = m_oshash.hashForFileAtPath(lastFilePath).fileHash;
         // As with files, a fingerprint that could not be taken matches nothing: a folder
         // whose sum rests on an unreadable file is not compared.
-        const bool lastFileUnreadable = record.fileCount > 1 && !lastFilePath.isEmpty() &&
-                                        record.lastHash.isEmpty();
+        const bool lastFileUnreadable =
+            record.fileCount > 1 && !lastFilePath.isEmpty() && record.lastHash.isEmpty();
         const bool onlyFileUnreadable = record.fileCount == 1 && record.firstHash.isEmpty();
         if (lastFileUnreadable || onlyFileUnreadable)
             return;
@@ -322,8 +321,7 @@ void BRDuplicateFinderClass::storeBucket(qint64 fileSize, const QString &fileTyp
 }
 
 void BRDuplicateFinderClass::updateDictOfDupeFiles(const QString &key, qint64 fileSize,
-                                                   const QString &fileType,
-                                                   const QString &fileName,
+                                                   const QString &fileType, const QString &fileName,
                                                    const QStringList &filePaths,
                                                    const QString &oldKey,
                                                    const Thumbnail &thumbNail,

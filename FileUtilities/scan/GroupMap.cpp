@@ -26,12 +26,12 @@ struct GroupMap::Node
 {
     struct Slot
     {
-        LeafPointer leaf;  // exactly one of leaf and child is set
+        LeafPointer leaf; // exactly one of leaf and child is set
         NodePointer child;
     };
 
-    std::uint32_t bitmap = 0;        // which of the 32 slots are used
-    std::vector<Slot> slots;         // the used ones, in slot order
+    std::uint32_t bitmap = 0;            // which of the 32 slots are used
+    std::vector<Slot> slots;             // the used ones, in slot order
     std::vector<LeafPointer> collisions; // only in nodes below the last hash bit
 
     qsizetype position(unsigned index) const
@@ -169,8 +169,8 @@ bool GroupMap::remove(const QString &key)
 
 // Gives the node without `key`, null when nothing is left in it; `found` tells whether
 // the key was there (if not, the node is given back unchanged).
-GroupMap::NodePointer GroupMap::removed(const NodePointer &node, unsigned shift,
-                                        const QString &key, std::uint64_t hash, bool &found)
+GroupMap::NodePointer GroupMap::removed(const NodePointer &node, unsigned shift, const QString &key,
+                                        std::uint64_t hash, bool &found)
 {
     if (!node)
         return node;
@@ -217,8 +217,7 @@ GroupMap::NodePointer GroupMap::removed(const NodePointer &node, unsigned shift,
     return copy;
 }
 
-void GroupMap::forEach(
-    const std::function<void(const QString &, const GroupRecord &)> &visit) const
+void GroupMap::forEach(const std::function<void(const QString &, const GroupRecord &)> &visit) const
 {
     if (m_root)
         visitNode(*m_root, visit);

@@ -34,7 +34,9 @@ VideoHash OSHashAlgorithm::hashOpenedFile(int fd)
         return result;
     m_fileHandler = fd;
 
-    struct stat info {};
+    struct stat info
+    {
+    };
     if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
         close();
         return result;

@@ -6,8 +6,8 @@
 #include <QString>
 
 #include <cstdint>
-#include <optional>
 #include <memory>
+#include <optional>
 
 // The OSHash fingerprint: the file's size plus the 64-bit little-endian word sums of its
 // first and its last 64 KiB, wrapping modulo 2^64. It reads at most 128 KiB of any file,

@@ -3,8 +3,7 @@
 #include <QList>
 
 // A last-in, first-out list; the scan keeps its open folders in one.
-template <typename T>
-struct Stack
+template <typename T> struct Stack
 {
     QList<T> items;
 

@@ -4,12 +4,11 @@
 
 CommandLineReporter::CommandLineReporter(std::FILE *output, bool json)
     : m_output(output), m_json(json)
-{
-}
+{}
 
-void CommandLineReporter::updateDuplicateFiles(const GroupMap &dictOfDupeFiles,
-                                               bool completeStatus, const QString &key,
-                                               qint64 totalDuplicates, qint64 totalDupesSize)
+void CommandLineReporter::updateDuplicateFiles(const GroupMap &dictOfDupeFiles, bool completeStatus,
+                                               const QString &key, qint64 totalDuplicates,
+                                               qint64 totalDupesSize)
 {
     m_groups = dictOfDupeFiles;
     m_totalDuplicates = totalDuplicates;

@@ -32,13 +32,14 @@ QByteArray DuplicateListing::format(const GroupMap &groups, const QStringList &k
     for (const Entry &entry : entries) {
         const GroupRecord &group = *entry.group;
         out += group.fileName + QStringLiteral(" (") + group.fileType + QStringLiteral("): ") +
-               QString::number(group.filePath.size()) + QStringLiteral(" copies of ") + sizeText(group.fileSize) +
-               QStringLiteral(", ") + sizeText(group.totalSize) + QStringLiteral(" in all\n");
+               QString::number(group.filePath.size()) + QStringLiteral(" copies of ") +
+               sizeText(group.fileSize) + QStringLiteral(", ") + sizeText(group.totalSize) +
+               QStringLiteral(" in all\n");
         for (const QString &path : group.filePath)
             out += QStringLiteral("  ") + path + u'\n';
         out += u'\n';
     }
-    out += QString::number(totalDuplicates) + QStringLiteral(" duplicate files, ") + sizeText(totalDupesSize) +
-           QStringLiteral(" reclaimable\n");
+    out += QString::number(totalDuplicates) + QStringLiteral(" duplicate files, ") +
+           sizeText(totalDupesSize) + QStringLiteral(" reclaimable\n");
     return out.toUtf8();
 }

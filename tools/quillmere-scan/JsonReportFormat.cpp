@@ -19,13 +19,27 @@ QByteArray JsonReportFormat::string(const QString &text)
     for (const char c : utf8) {
         const auto byte = static_cast<unsigned char>(c);
         switch (c) {
-        case '"': out += "\\\""; break;
-        case '\\': out += "\\\\"; break;
-        case '\n': out += "\\n"; break;
-        case '\r': out += "\\r"; break;
-        case '\t': out += "\\t"; break;
-        case '\b': out += "\\b"; break;
-        case '\f': out += "\\f"; break;
+        case '"':
+            out += "\\\"";
+            break;
+        case '\\':
+            out += "\\\\";
+            break;
+        case '\n':
+            out += "\\n";
+            break;
+        case '\r':
+            out += "\\r";
+            break;
+        case '\t':
+            out += "\\t";
+            break;
+        case '\b':
+            out += "\\b";
+            break;
+        case '\f':
+            out += "\\f";
+            break;
         default:
             if (byte < 0x20) {
                 out += "\\u00";
@@ -71,8 +85,8 @@ QByteArray JsonReportFormat::finalReport(const GroupMap &groups, const QStringLi
                                          qint64 totalDuplicates, qint64 totalDupesSize)
 {
     QByteArray out = "{\"completeStatus\": true, \"key\": \"\", \"totalDuplicates\": " +
-                     number(totalDuplicates) +
-                     ", \"totalDupesSize\": " + number(totalDupesSize) + ", \"groups\": {";
+                     number(totalDuplicates) + ", \"totalDupesSize\": " + number(totalDupesSize) +
+                     ", \"groups\": {";
     bool first = true;
     for (const QString &key : keyOrder) {
         const GroupRecord *group = groups.find(key);

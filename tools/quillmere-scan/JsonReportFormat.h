@@ -11,8 +11,8 @@
 class JsonReportFormat
 {
 public:
-    static QByteArray liveReport(const QString &key, qint64 totalDuplicates,
-                                 qint64 totalDupesSize, const GroupRecord &group);
+    static QByteArray liveReport(const QString &key, qint64 totalDuplicates, qint64 totalDupesSize,
+                                 const GroupRecord &group);
     static QByteArray finalReport(const GroupMap &groups, const QStringList &keyOrder,
                                   qint64 totalDuplicates, qint64 totalDupesSize);
 

@@ -54,7 +54,8 @@ int main(int argc, char *argv[])
             paths += arguments.mid(i + 1);
             break;
         } else if (argument.startsWith(u'-') && argument.size() > 1) {
-            return fail(QStringLiteral("unknown option ") + argument + QStringLiteral(" (see --help)"));
+            return fail(QStringLiteral("unknown option ") + argument +
+                        QStringLiteral(" (see --help)"));
         } else {
             paths.append(argument);
         }
