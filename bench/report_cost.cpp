@@ -53,8 +53,8 @@ void run(const char *name, qint64 groups, qint64 window, Insert insert, Find fin
         receiverMap = snapshot;         // the receiver keeps it whole
         checksum += find(receiverMap, key);
         if ((i + 1) % window == 0) {
-            const double micros = static_cast<double>(timer.nsecsElapsed()) / 1000.0 /
-                                  static_cast<double>(window);
+            const double micros =
+                static_cast<double>(timer.nsecsElapsed()) / 1000.0 / static_cast<double>(window);
             std::printf("%-8s %10lld %16.2f\n", name, static_cast<long long>(i + 1), micros);
             timer.restart();
         }

@@ -7,10 +7,13 @@
 // One entry of a folder walk, with what the scan needs already read by a single lstat.
 struct DirectoryEntry
 {
+    // Everything that is not a folder is a file entry; only a regular file holds content
+    // that may be read (a device, FIFO or socket is never opened).
     enum class Kind
     {
         Folder,
-        File
+        File,
+        OtherFile
     };
 
     QString path;       // absolute, no trailing slash
@@ -25,6 +28,7 @@ struct DirectoryEntry
     int folderDescriptor = -1;
 
     bool isDirectory() const { return kind == Kind::Folder; }
+    bool isRegularFile() const { return kind == Kind::File; }
     // The last path component, taken from the path so that the walk need not keep it apart.
     QStringView nameView() const;
     QString name() const { return nameView().toString(); }

@@ -146,8 +146,9 @@ DirectoryEnumerator::readFolder(int fd, const QByteArray &nativePath, const QStr
             };
             if (::fstatat(fd, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
                 continue; // vanished since it was listed
-            const auto kind =
-                S_ISDIR(info.st_mode) ? DirectoryEntry::Kind::Folder : DirectoryEntry::Kind::File;
+            const auto kind = S_ISDIR(info.st_mode)   ? DirectoryEntry::Kind::Folder
+                              : S_ISREG(info.st_mode) ? DirectoryEntry::Kind::File
+                                                      : DirectoryEntry::Kind::OtherFile;
             folder.entries.push_back(
                 {folder.names.size(), length, kind, static_cast<qint64>(info.st_size)});
             folder.names.append(name, length + 1); // with its NUL, for openat

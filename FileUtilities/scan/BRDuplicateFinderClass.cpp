@@ -10,6 +10,9 @@ namespace {
 constexpr qint64 smallestComparedFileSize = 65537;
 constexpr qint64 smallestComparedFolderSize = 65536;
 constexpr double thumbnailSide = 70.0;
+// A folder remembers at most this many files before it takes its first fingerprint, so a
+// folder of a million files (or the scanned root, which never closes) holds few paths.
+constexpr qsizetype mostUnhashedFiles = 256;
 
 const QString applicationMarker = QStringLiteral(".app");
 
@@ -126,28 +129,43 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
         report(locker, true, QString());
 }
 
-// Counts a file in its folder's record; each folder fingerprints only its first readable
-// file here.
+// Counts a file in its folder's record. The folder's first fingerprint is that of its
+// first readable file; until it is needed, the file is only remembered.
+void BRDuplicateFinderClass::takeFirstHash(FolderRecord &record)
+{
+    for (const QString &path : std::as_const(record.unhashedFiles)) {
+        const QString hash = m_oshash.hashForFileAtPath(path).fileHash;
+        if (!hash.isEmpty()) {
+            record.firstHash = hash;
+            record.lastHash = hash;
+            break;
+        }
+    }
+    record.unhashedFiles.clear();
+}
+
 VideoHash BRDuplicateFinderClass::fingerprintOf(const DirectoryEntry &file)
 {
+    // Opening a device can have effects of its own (a tape rewinds), so only regular
+    // files are opened at all; anything else fingerprints as unreadable.
+    if (!file.isRegularFile())
+        return VideoHash{};
     return m_oshash.hashForFileInFolder(file.folderDescriptor, file.nativeName, file.path);
 }
 
 void BRDuplicateFinderClass::recordFileInFolder(const QString &parent, const DirectoryEntry &file)
 {
     auto record = m_fileDict.find(parent);
-    if (record == m_fileDict.end()) {
-        const QString hash = fingerprintOf(file).fileHash;
-        m_fileDict.insert(parent, FolderRecord{1, 0, hash, hash});
-        return;
+    if (record == m_fileDict.end())
+        record = m_fileDict.insert(parent, FolderRecord{});
+    // Anything but a regular file fingerprints as unreadable, so it could never be first.
+    if ((record->firstHash.isEmpty() || record->lastHash.isEmpty()) && file.isRegularFile()) {
+        record->unhashedFiles.append(file.path);
+        if (record->unhashedFiles.size() >= mostUnhashedFiles)
+            takeFirstHash(*record);
     }
-    QString firstHash = record->firstHash;
-    QString lastHash = record->lastHash;
-    if (firstHash.isEmpty() || lastHash.isEmpty()) {
-        firstHash = fingerprintOf(file).fileHash;
-        lastHash = firstHash;
-    }
-    *record = FolderRecord{record->fileCount + 1, 0, firstHash, lastHash};
+    record->fileCount += 1;
+    record->fileSize = 0;
 }
 
 void BRDuplicateFinderClass::addSizeToCurrentFolder(qint64 size)
@@ -229,8 +247,7 @@ void BRDuplicateFinderClass::closeFolders(const QString &parentPath, const QStri
             const qint64 childCount = closed->fileCount;
             auto parent = m_fileDict.find(deletingLastPathComponent(path));
             if (parent != m_fileDict.end())
-                *parent = FolderRecord{parent->fileCount + childCount + 1, parent->fileSize,
-                                       parent->firstHash, parent->lastHash};
+                parent->fileCount += childCount + 1;
         }
 
         runningTotal += entry.size;
@@ -251,8 +268,11 @@ void BRDuplicateFinderClass::checkForDuplicateFolder(const QString &folderName,
     const auto found = m_fileDict.find(folderPath);
     if (found == m_fileDict.end())
         return;
-    if (folderSize < smallestComparedFolderSize)
+    if (folderSize < smallestComparedFolderSize) {
+        found->unhashedFiles.clear();
         return;
+    }
+    takeFirstHash(*found);
 
     FolderRecord record = *found;
     QString key;

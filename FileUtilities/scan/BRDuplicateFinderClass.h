@@ -86,6 +86,7 @@ private:
                                const QString &fileUTI, qint64 totalSize);
     void recordFileInFolder(const QString &parent, const DirectoryEntry &file);
     VideoHash fingerprintOf(const DirectoryEntry &file);
+    void takeFirstHash(FolderRecord &record);
     // Reports outside the lock, so that a receiver may call back into the finder.
     void report(QMutexLocker<QMutex> &locker, bool completeStatus, const QString &key);
 
