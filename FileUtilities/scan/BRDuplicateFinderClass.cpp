@@ -129,8 +129,8 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
         report(locker, true, QString());
 }
 
-// Counts a file in its folder's record. The folder's first fingerprint is that of its
-// first readable file; until it is needed, the file is only remembered.
+// Takes the folder's first fingerprint from the first of its remembered files that can
+// be read, as the walk would have had it file by file.
 void BRDuplicateFinderClass::takeFirstHash(FolderRecord &record)
 {
     for (const QString &path : std::as_const(record.unhashedFiles)) {
@@ -153,6 +153,8 @@ VideoHash BRDuplicateFinderClass::fingerprintOf(const DirectoryEntry &file)
     return m_oshash.hashForFileInFolder(file.folderDescriptor, file.nativeName, file.path);
 }
 
+// Counts a file in its folder's record. The folder's first fingerprint is that of its
+// first readable file; until it is needed, the file is only remembered.
 void BRDuplicateFinderClass::recordFileInFolder(const QString &parent, const DirectoryEntry &file)
 {
     auto record = m_fileDict.find(parent);
