@@ -21,13 +21,6 @@ QImage ThumbnailCache::imageFor(const QString &path, QSize size)
     }
     QImage image = ThumbnailRenderer::render(path, size);
     QMutexLocker locker(&m_mutex);
-    ++m_renderedCount;
     m_images.insert(key, new QImage(image), qMax<qsizetype>(1, image.sizeInBytes()));
     return image;
-}
-
-qsizetype ThumbnailCache::renderedCount() const
-{
-    QMutexLocker locker(&m_mutex);
-    return m_renderedCount;
 }

@@ -15,12 +15,10 @@ public:
     explicit ThumbnailCache(qsizetype budgetBytes = 32 * 1024 * 1024);
 
     QImage imageFor(const QString &path, QSize size);
-    qsizetype renderedCount() const;
 
 private:
     static QString keyFor(const QString &path, QSize size);
 
     mutable QMutex m_mutex;
     QCache<QString, QImage> m_images;
-    qsizetype m_renderedCount = 0;
 };

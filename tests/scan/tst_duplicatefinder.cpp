@@ -290,18 +290,6 @@ private Q_SLOTS:
         QCOMPARE(finder.stackOfArray().count(), 0);
     }
 
-    void twoScansGiveTheSameReports()
-    {
-        TestDir dir;
-        for (int i = 0; i < 6; ++i) {
-            dir.createPatternFile(QStringLiteral("x%1/a.dat").arg(i), kBig, 71);
-            dir.createPatternFile(QStringLiteral("x%1/b%2.jpg").arg(i).arg(i % 2), kBig + i % 2,
-                                  72);
-        }
-        QCOMPARE(scan(dir.path())->liveKeys(), scan(dir.path())->liveKeys());
-    }
-
-    // Things a real tree holds that must neither stop nor stall a scan.
     void badInputIsPassedOver()
     {
         TestDir dir;
