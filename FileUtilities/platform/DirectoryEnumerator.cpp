@@ -141,9 +141,7 @@ DirectoryEnumerator::readFolder(int fd, const QByteArray &nativePath, const QStr
             const auto length = static_cast<qsizetype>(std::strlen(name));
             if (!survivesDecoding(name, length))
                 continue;
-            struct stat info
-            {
-            };
+            struct stat info = {};
             if (::fstatat(fd, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
                 continue; // vanished since it was listed
             const auto kind = S_ISDIR(info.st_mode)   ? DirectoryEntry::Kind::Folder

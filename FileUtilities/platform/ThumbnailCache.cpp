@@ -21,6 +21,7 @@ QImage ThumbnailCache::imageFor(const QString &path, QSize size)
     }
     QImage image = ThumbnailRenderer::render(path, size);
     QMutexLocker locker(&m_mutex);
+    // The cache owns what it is given and deletes it when it makes room.
     m_images.insert(key, new QImage(image), qMax<qsizetype>(1, image.sizeInBytes()));
     return image;
 }

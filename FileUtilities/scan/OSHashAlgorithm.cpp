@@ -16,7 +16,13 @@ constexpr int openFlags = O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC;
 
 VideoHash OSHashAlgorithm::hashForFileAtPath(const QString &path)
 {
-    return hashOpenedFile(::open(QFile::encodeName(path).constData(), openFlags));
+    // Opening a device can have effects of its own (a tape rewinds), so a path is opened
+    // only once it is known to name a regular file.
+    const QByteArray nativePath = QFile::encodeName(path);
+    struct stat info = {};
+    if (::lstat(nativePath.constData(), &info) != 0 || !S_ISREG(info.st_mode))
+        return VideoHash{};
+    return hashOpenedFile(::open(nativePath.constData(), openFlags));
 }
 
 VideoHash OSHashAlgorithm::hashForFileInFolder(int folderDescriptor, const QByteArray &nativeName,
@@ -34,9 +40,7 @@ VideoHash OSHashAlgorithm::hashOpenedFile(int fd)
         return result;
     m_fileHandler = fd;
 
-    struct stat info
-    {
-    };
+    struct stat info = {};
     if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
         close();
         return result;
