@@ -10,6 +10,7 @@
 #include <functional>
 
 #include <fcntl.h>
+#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -318,6 +319,32 @@ private Q_SLOTS:
         const GroupRecord group = *result->last().groups.find(result->liveKeys().first());
         QCOMPARE(group.filePath, (QStringList{dir.filePath(QStringLiteral("a/one.dat")),
                                               dir.filePath(QStringLiteral("b/one.dat"))}));
+    }
+
+    // Opening a device can have effects of its own; the scan opens regular files only,
+    // also where a special file is a folder's first or last entry.
+    void opensNothingButRegularFiles()
+    {
+        TestDir dir;
+        QStringList pipes;
+        for (const QString &folder : {QStringLiteral("A"), QStringLiteral("B")}) {
+            dir.createPatternFile(folder + QStringLiteral("/m.dat"), kBig, 121);
+            for (const QString &name : {QStringLiteral("0pipe"), QStringLiteral("zpipe")}) {
+                pipes.append(dir.filePath(folder + u'/' + name));
+                QVERIFY(::mkfifo(QFile::encodeName(pipes.last()).constData(), 0600) == 0);
+            }
+        }
+        const int watcher = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+        QVERIFY(watcher >= 0);
+        for (const QString &pipe : pipes)
+            QVERIFY(::inotify_add_watch(watcher, QFile::encodeName(pipe).constData(), IN_OPEN) >=
+                    0);
+        const auto result = scan(dir.path());
+        char events[4096];
+        const ssize_t read = ::read(watcher, events, sizeof events);
+        ::close(watcher);
+        QCOMPARE(read, ssize_t(-1));               // no event: nothing was opened
+        QCOMPARE(result->last().groups.size(), 1); // m.dat; the folders end on a pipe
     }
 
     void fileVanishingBeforeItsFingerprint()
