@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QColor>
+
+// One way to name a colour across the program: red, green and blue on the scale of 255,
+// alpha from 0 to 1, as designers write them.
+class BRColorHelper
+{
+public:
+    static QColor color(double red, double green, double blue, double alpha);
+};
