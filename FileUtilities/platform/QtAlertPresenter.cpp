@@ -1,0 +1,27 @@
+#include "QtAlertPresenter.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+QtAlertPresenter::QtAlertPresenter(QWidget *window) : m_window(window) {}
+
+int QtAlertPresenter::runModal(const AlertRequest &request)
+{
+    QMessageBox box(m_window);
+    box.setIcon(QMessageBox::Warning);
+    box.setText(request.title);
+    box.setInformativeText(request.text);
+    const QStringList buttons =
+        request.buttons.isEmpty() ? QStringList{QStringLiteral("OK")} : request.buttons;
+    QList<QAbstractButton *> added;
+    for (qsizetype i = 0; i < buttons.size(); ++i) {
+        // The action first and default; a second button is the way out, also for Escape.
+        const auto role = i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
+        added.append(box.addButton(buttons.at(i), role));
+    }
+    box.setDefaultButton(qobject_cast<QPushButton *>(added.first()));
+    box.setEscapeButton(added.last());
+    box.exec();
+    const auto index = added.indexOf(box.clickedButton());
+    return firstButton + static_cast<int>(index < 0 ? added.size() - 1 : index);
+}

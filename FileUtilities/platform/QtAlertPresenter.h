@@ -1,0 +1,17 @@
+#pragma once
+
+#include "AlertPresenter.h"
+
+#include <QPointer>
+#include <QWidget>
+
+// Alerts as window-modal message boxes over the main window.
+class QtAlertPresenter final : public AlertPresenter
+{
+public:
+    explicit QtAlertPresenter(QWidget *window = nullptr);
+    int runModal(const AlertRequest &request) override;
+
+private:
+    QPointer<QWidget> m_window;
+};
