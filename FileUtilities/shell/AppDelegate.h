@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+class AlertPresenter;
+class QSettings;
+
+// The application's delegate: the two facts every decision to quit turns on, the guards
+// on quitting, and the plain alert all screens use. One exists per run; screens are given
+// it rather than looking it up.
+class AppDelegate : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class TerminateReply
+    {
+        TerminateNow,
+        TerminateCancel
+    };
+
+    AppDelegate(AlertPresenter &alerts, QSettings &settings, QObject *parent = nullptr);
+
+    // True while a duplicate scan runs.
+    bool duplicateScanStatus = false;
+    // The groups a finished scan holds; 0 means quitting loses nothing on that side.
+    int duplicateFilesCount = 0;
+    QPointer<QWidget> window;
+
+    void applicationDidFinishLaunching();
+    TerminateReply applicationShouldTerminate();
+    bool applicationShouldTerminateAfterLastWindowClosed() const;
+    TerminateReply showQuitAlert(const QString &title, const QString &message);
+    void showAlert(const QString &title, const QString &description);
+
+    static QString quitTitle();
+    static QString scanInProgressMessage();
+    static QString resultsWillBeLostMessage();
+
+private:
+    AlertPresenter &m_alerts;
+    QSettings &m_settings;
+};

@@ -1,0 +1,85 @@
+#include "AppDelegate.h"
+#include "ScriptedAlertPresenter.h"
+#include "TestDir.h"
+
+#include <QSettings>
+#include <QTest>
+
+class tst_AppDelegate : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void quitting_data()
+    {
+        QTest::addColumn<bool>("scanRuns");
+        QTest::addColumn<int>("groupsHeld");
+        QTest::addColumn<int>("answer"); // 0: no alert is expected
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<bool>("terminates");
+        const QString scan = AppDelegate::scanInProgressMessage();
+        const QString lost = AppDelegate::resultsWillBeLostMessage();
+        QTest::newRow("nothing held") << false << 0 << 0 << QString() << true;
+        QTest::newRow("scan, Quit") << true << 0 << AlertPresenter::firstButton << scan << true;
+        QTest::newRow("scan, Cancel") << true << 3 << AlertPresenter::secondButton << scan << false;
+        QTest::newRow("results, Quit") << false << 5 << AlertPresenter::firstButton << lost << true;
+        QTest::newRow("results, Cancel")
+            << false << 5 << AlertPresenter::secondButton << lost << false;
+    }
+    void quitting()
+    {
+        QFETCH(bool, scanRuns);
+        QFETCH(int, groupsHeld);
+        QFETCH(int, answer);
+        QFETCH(QString, message);
+        QFETCH(bool, terminates);
+        TestDir dir;
+        QSettings settings(dir.filePath(QStringLiteral("s.ini")), QSettings::IniFormat);
+        ScriptedAlertPresenter alerts;
+        alerts.answers = {answer};
+        AppDelegate app(alerts, settings);
+        app.duplicateScanStatus = scanRuns;
+        app.duplicateFilesCount = groupsHeld;
+
+        const auto reply = app.applicationShouldTerminate();
+        QCOMPARE(reply == AppDelegate::TerminateReply::TerminateNow, terminates);
+        QCOMPARE(alerts.shown.size(), answer ? 1 : 0);
+        if (answer) {
+            QCOMPARE(alerts.shown[0].title, QStringLiteral("Quit Quillmere?"));
+            QCOMPARE(alerts.shown[0].text, message);
+            QCOMPARE(alerts.shown[0].buttons,
+                     (QStringList{QStringLiteral("Quit"), QStringLiteral("Cancel")}));
+        }
+        // "Quit" resets both facts first; "Cancel" leaves the scan and results as they were.
+        QCOMPARE(app.duplicateScanStatus, terminates ? false : scanRuns);
+        QCOMPARE(app.duplicateFilesCount, terminates ? 0 : groupsHeld);
+    }
+
+    void lastWindowClosed_data()
+    {
+        QTest::addColumn<bool>("scanRuns");
+        QTest::addColumn<int>("groupsHeld");
+        QTest::addColumn<bool>("terminates");
+        QTest::newRow("nothing held") << false << 0 << true;
+        QTest::newRow("scan runs") << true << 0 << false;
+        QTest::newRow("results held") << false << 2 << false;
+    }
+    void lastWindowClosed()
+    {
+        QFETCH(bool, scanRuns);
+        QFETCH(int, groupsHeld);
+        QFETCH(bool, terminates);
+        TestDir dir;
+        QSettings settings(dir.filePath(QStringLiteral("s.ini")), QSettings::IniFormat);
+        ScriptedAlertPresenter alerts;
+        AppDelegate app(alerts, settings);
+        app.duplicateScanStatus = scanRuns;
+        app.duplicateFilesCount = groupsHeld;
+        QCOMPARE(app.applicationShouldTerminateAfterLastWindowClosed(), terminates);
+        app.applicationDidFinishLaunching();
+        QCOMPARE(settings.value(QStringLiteral("NSInitialToolTipDelay")).toInt(), 1);
+    }
+};
+
+QTEST_MAIN(tst_AppDelegate)
+#include "tst_appdelegate.moc"
