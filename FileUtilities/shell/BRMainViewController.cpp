@@ -1,0 +1,175 @@
+#include "BRMainViewController.h"
+
+#include "AlertPresenter.h"
+#include "BRColorHelper.h"
+#include "BRDuplicateFilesMainViewDelegate.h"
+#include "BRTabViewController.h"
+
+#include <QFile>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+QToolButton *makeImageButton(const QString &objectName, const QString &accessibleName,
+                             QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setObjectName(objectName);
+    // The icon alone says nothing to a screen reader or a script on the accessibility bus.
+    button->setAccessibleName(accessibleName);
+    button->setAutoRaise(true);
+    button->setIconSize(QSize(32, 32));
+    return button;
+}
+
+QPushButton *makeTitleButton(const QString &objectName, QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setObjectName(objectName);
+    button->setFlat(true);
+    return button;
+}
+
+} // namespace
+
+BRMainViewController::BRMainViewController(AlertPresenter &alerts, QWidget *duplicatesSide,
+                                           QWidget *renameSide, QWidget *parent)
+    : QWidget(parent), m_alerts(alerts),
+      m_tabViewController(new BRTabViewController(duplicatesSide, renameSide, this)),
+      m_duplicateButton(makeTitleButton(QStringLiteral("duplicateButton"), this)),
+      m_renameButton(makeTitleButton(QStringLiteral("renameButton"), this)),
+      m_duplicateImageButton(makeImageButton(QStringLiteral("duplicateImageButton"),
+                                             QStringLiteral("Duplicates"), this)),
+      m_renameImageButton(
+          makeImageButton(QStringLiteral("renameImageButton"), QStringLiteral("Rename"), this))
+{
+    setObjectName(QStringLiteral("BRMainViewController"));
+    // The tab titles are light on purpose: they stand on a dark bar across the window.
+    auto *tabBar = new QWidget(this);
+    tabBar->setObjectName(QStringLiteral("tabBar"));
+    tabBar->setAutoFillBackground(true);
+    QPalette barPalette = tabBar->palette();
+    barPalette.setColor(QPalette::Window, BRColorHelper::color(38, 44, 56, 1.0));
+    tabBar->setPalette(barPalette);
+    auto *tabs = new QHBoxLayout(tabBar);
+    tabs->setContentsMargins(12, 8, 12, 8);
+    tabs->addStretch();
+    for (QWidget *half :
+         {static_cast<QWidget *>(m_duplicateImageButton), static_cast<QWidget *>(m_duplicateButton),
+          static_cast<QWidget *>(m_renameImageButton), static_cast<QWidget *>(m_renameButton)})
+        tabs->addWidget(half);
+    tabs->addStretch();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(tabBar);
+    layout->addWidget(m_tabViewController, 1);
+
+    connect(m_duplicateButton, &QPushButton::clicked, this,
+            &BRMainViewController::changeDuplicateButtonImageAndTitleColor);
+    connect(m_duplicateImageButton, &QToolButton::clicked, this,
+            &BRMainViewController::changeDuplicateButtonImageAndTitleColor);
+    connect(m_renameButton, &QPushButton::clicked, this,
+            &BRMainViewController::changeRenameButtonImageAndTitleColor);
+    connect(m_renameImageButton, &QToolButton::clicked, this,
+            &BRMainViewController::changeRenameButtonImageAndTitleColor);
+
+    setButtonImage(m_renameImageButton, QStringLiteral("rename_icon"));
+    showTool(true);
+}
+
+QColor BRMainViewController::selectedTitleColor()
+{
+    return BRColorHelper::color(139, 247, 70, 1.0);
+}
+
+QColor BRMainViewController::unselectedTitleColor()
+{
+    return BRColorHelper::color(255, 255, 255, 0.8);
+}
+
+void BRMainViewController::setDuplicateMainViewDelegate(BRDuplicateFilesMainViewDelegate *delegate)
+{
+    m_duplicateMainViewDelegate = delegate;
+}
+
+void BRMainViewController::updateTabStatus(bool scanRuns)
+{
+    m_renameDisableStatus = scanRuns;
+}
+
+void BRMainViewController::changeDuplicateButtonImageAndTitleColor()
+{
+    showTool(true);
+    selectTabAtIndex(BRTabViewController::duplicatesIndex);
+}
+
+void BRMainViewController::changeRenameButtonImageAndTitleColor()
+{
+    if (!m_renameDisableStatus) {
+        switchRenameTab();
+        return;
+    }
+    const int answer = m_alerts.runModal(
+        {QStringLiteral("Stop duplicate files scan & switch to rename?"),
+         QStringLiteral("Duplicate files scanning is in progress. Do you want to stop the scan "
+                        "and switch to renaming files?"),
+         {QStringLiteral("Stop scan"), QStringLiteral("Cancel")}});
+    if (answer == AlertPresenter::firstButton) {
+        if (m_duplicateMainViewDelegate)
+            m_duplicateMainViewDelegate->updateDuplicateScanStatus(true);
+        switchRenameTab();
+        m_renameDisableStatus = false;
+    } else if (m_duplicateMainViewDelegate) {
+        m_duplicateMainViewDelegate->updateDuplicateScanStatus(false);
+    }
+}
+
+void BRMainViewController::switchRenameTab()
+{
+    showTool(false);
+    selectTabAtIndex(BRTabViewController::renameIndex);
+}
+
+void BRMainViewController::showTool(bool duplicates)
+{
+    setButtonImage(m_duplicateImageButton, duplicates ? QStringLiteral("duplicates_icon_selected")
+                                                      : QStringLiteral("duplicates_icon"));
+    setButtonImage(m_renameImageButton, duplicates ? QStringLiteral("rename_icon")
+                                                   : QStringLiteral("rename_icon_selected"));
+    setButtonTitleAndColor(m_duplicateButton, QStringLiteral("Duplicates"),
+                           duplicates ? selectedTitleColor() : unselectedTitleColor());
+    setButtonTitleAndColor(m_renameButton, QStringLiteral("Rename"),
+                           duplicates ? unselectedTitleColor() : selectedTitleColor());
+}
+
+void BRMainViewController::selectTabAtIndex(int index)
+{
+    m_tabViewController->setCurrentIndex(index);
+}
+
+void BRMainViewController::setButtonTitleAndColor(QPushButton *button, const QString &title,
+                                                  const QColor &color)
+{
+    button->setText(title);
+    QFont font = button->font();
+    font.setPointSize(15);
+    button->setFont(font);
+    QPalette palette = button->palette();
+    palette.setColor(QPalette::ButtonText, color);
+    button->setPalette(palette);
+}
+
+// An image that cannot be had leaves the button's image as it was.
+void BRMainViewController::setButtonImage(QToolButton *button, const QString &imageName)
+{
+    const QString path = QStringLiteral(":/images/") + imageName + QStringLiteral(".svg");
+    if (!QFile::exists(path))
+        return;
+    button->setIcon(QIcon(path));
+    button->setProperty("imageName", imageName);
+}
