@@ -10,6 +10,8 @@ class QtAlertPresenter final : public AlertPresenter
 {
 public:
     explicit QtAlertPresenter(QWidget *window = nullptr);
+    // The window the dialogs are modal to; the main window is made after its services.
+    void setWindow(QWidget *window) { m_window = window; }
     int runModal(const AlertRequest &request) override;
 
 private:

@@ -10,6 +10,8 @@ class QtOpenPanel final : public OpenPanel
 {
 public:
     explicit QtOpenPanel(QWidget *window = nullptr);
+    // The window the dialogs are modal to; the main window is made after its services.
+    void setWindow(QWidget *window) { m_window = window; }
     QList<QUrl> runModal(const OpenPanelRequest &request) override;
 
 private:

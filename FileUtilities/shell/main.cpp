@@ -1,10 +1,10 @@
 #include "AppDelegate.h"
-#include "BRMainViewController.h"
+#include "BRMainWindowController.h"
 #include "BRToolPlaceholderView.h"
 #include "QtAlertPresenter.h"
+#include "QtOpenPanel.h"
 
 #include <QApplication>
-#include <QMainWindow>
 #include <QSettings>
 
 int main(int argc, char *argv[])
@@ -14,24 +14,29 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
 
-    QMainWindow window;
-    window.setWindowTitle(QStringLiteral("Quillmere"));
-    window.resize(960, 640);
-
     QSettings settings;
-    QtAlertPresenter alerts(&window);
+    QtAlertPresenter alerts;
+    QtOpenPanel openPanel;
     AppDelegate appDelegate(alerts, settings);
-    appDelegate.window = &window;
     appDelegate.applicationDidFinishLaunching();
 
-    auto *duplicates = new BRToolPlaceholderView(
-        QStringLiteral("Duplicates"),
-        QStringLiteral("Finding duplicate files and folders comes to this window soon.\n"
-                       "Until then, quillmere-scan finds them from the command line."));
-    auto *rename = new BRToolPlaceholderView(
-        QStringLiteral("Rename"),
-        QStringLiteral("Renaming files in batches comes to this window soon."));
-    window.setCentralWidget(new BRMainViewController(alerts, duplicates, rename));
+    BRMainWindowController window(
+        {appDelegate, alerts, openPanel, settings,
+         [] {
+             return new BRToolPlaceholderView(
+                 QStringLiteral("Duplicates"),
+                 QStringLiteral("Finding duplicate files and folders comes to "
+                                "this window soon.\nUntil then, quillmere-scan "
+                                "finds them from the command line."));
+         },
+         [] {
+             return new BRToolPlaceholderView(QStringLiteral("Rename"),
+                                              QStringLiteral("Renaming files in batches comes to "
+                                                             "this window soon."));
+         }});
+    alerts.setWindow(&window);
+    openPanel.setWindow(&window);
+    window.windowDidLoad();
     window.show();
     return application.exec();
 }

@@ -1,0 +1,45 @@
+#include "BRIntroViewController.h"
+
+#include "BRColorHelper.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+BRIntroViewController::BRIntroViewController(QWidget *parent)
+    : QWidget(parent), m_gotItButton(new QPushButton(QStringLiteral("Got it!"), this))
+{
+    setObjectName(QStringLiteral("BRIntroViewController"));
+    m_gotItButton->setObjectName(QStringLiteral("gotItButton"));
+    auto *title = new QLabel(tr("Welcome to Quillmere"), this);
+    QFont titleFont = title->font();
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 2);
+    title->setFont(titleFont);
+    auto *text = new QLabel(tr("Duplicates finds equal files and folders in one pass and moves "
+                               "the copies you choose to the Trash.\nRename renames many files "
+                               "at once, and never overwrites a file."),
+                            this);
+    text->setWordWrap(true);
+    text->setAlignment(Qt::AlignCenter);
+
+    QFont buttonFont = m_gotItButton->font();
+    buttonFont.setPointSize(20);
+    m_gotItButton->setFont(buttonFont);
+    QPalette palette = m_gotItButton->palette();
+    palette.setColor(QPalette::ButtonText, BRColorHelper::color(255, 255, 255, 1.0));
+    palette.setColor(QPalette::Button, BRColorHelper::color(31, 201, 126, 1.0));
+    m_gotItButton->setPalette(palette);
+    m_gotItButton->setAutoFillBackground(true);
+    m_gotItButton->setMinimumSize(180, 52);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(48, 48, 48, 48);
+    layout->addStretch();
+    layout->addWidget(title, 0, Qt::AlignHCenter);
+    layout->addSpacing(12);
+    layout->addWidget(text);
+    layout->addSpacing(24);
+    layout->addWidget(m_gotItButton, 0, Qt::AlignHCenter);
+    layout->addStretch();
+    connect(m_gotItButton, &QPushButton::clicked, this, &BRIntroViewController::gotItAction);
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QWidget>
+
+class QPushButton;
+
+// The first screen a new user sees: what Quillmere does, and "Got it!".
+class BRIntroViewController : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit BRIntroViewController(QWidget *parent = nullptr);
+    QPushButton *gotItButton() const { return m_gotItButton; }
+
+Q_SIGNALS:
+    void gotItAction();
+
+private:
+    QPushButton *m_gotItButton;
+};

@@ -1,0 +1,83 @@
+#include "BRMainWindowController.h"
+
+#include "AppDelegate.h"
+#include "BRIntroViewController.h"
+#include "BRMainViewController.h"
+#include "BRObjectClass.h"
+#include "BRSelectHomeFolderViewController.h"
+
+#include <QSettings>
+
+namespace {
+const QString launchedBeforeKey = QStringLiteral("hasAppBeenLaunchedBefore");
+}
+
+BRMainWindowController::BRMainWindowController(Services services, QWidget *parent)
+    : QMainWindow(parent), m_services(std::move(services))
+{
+    setObjectName(QStringLiteral("BRMainWindowController"));
+    setWindowTitle(QStringLiteral("Quillmere"));
+    resize(960, 640);
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Window, Qt::white);
+    setPalette(palette);
+    m_services.appDelegate.window = this;
+}
+
+bool BRMainWindowController::didFinishLaunchingOnce()
+{
+    if (m_services.settings.contains(launchedBeforeKey))
+        return true;
+    // Written before the intro shows: a launch quit at once still counts.
+    m_services.settings.setValue(launchedBeforeKey, true);
+    m_services.settings.sync();
+    return false;
+}
+
+void BRMainWindowController::windowDidLoad()
+{
+    if (!didFinishLaunchingOnce()) {
+        loadIntroViewController();
+        return;
+    }
+    // Without a usable bookmark the window offers the home folder choice again.
+    loadHomeViewController();
+    const QByteArray bookmark =
+        m_services.settings.value(BRObjectClass::bookmarkedDataKey()).toByteArray();
+    if (bookmark.isEmpty())
+        return;
+    const auto home = BRObjectClass(&m_services.settings).resolveBookmarkData(bookmark);
+    if (!home || !BRObjectClass::startAccessingSecurityScopedResource(*home))
+        return;
+    loadMainViewController();
+}
+
+void BRMainWindowController::loadIntroViewController()
+{
+    auto *intro = new BRIntroViewController;
+    connect(intro, &BRIntroViewController::gotItAction, this,
+            &BRMainWindowController::loadHomeViewController);
+    setContent(intro);
+}
+
+void BRMainWindowController::loadHomeViewController()
+{
+    auto *home = new BRSelectHomeFolderViewController(m_services.openPanel, &m_services.settings);
+    connect(home, &BRSelectHomeFolderViewController::mainSegue, this,
+            &BRMainWindowController::loadMainViewController);
+    setContent(home);
+}
+
+void BRMainWindowController::loadMainViewController()
+{
+    setContent(new BRMainViewController(m_services.alerts, m_services.makeDuplicatesSide(),
+                                        m_services.makeRenameSide()));
+}
+
+void BRMainWindowController::setContent(QWidget *content)
+{
+    // The old screen may be the sender of the signal that got us here: delete it later.
+    if (QWidget *old = takeCentralWidget())
+        old->deleteLater();
+    setCentralWidget(content);
+}

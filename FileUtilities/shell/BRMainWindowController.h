@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <functional>
+
+class AlertPresenter;
+class AppDelegate;
+class OpenPanel;
+class QSettings;
+
+// The one main window. Each step of the start swaps its content: the intro on the first
+// launch, then the home folder choice, then the main view; later launches with a usable
+// home folder bookmark go to the main view at once.
+class BRMainWindowController : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    struct Services
+    {
+        AppDelegate &appDelegate;
+        AlertPresenter &alerts;
+        OpenPanel &openPanel;
+        QSettings &settings;
+        // Make the two tools' screens when the main view is built.
+        std::function<QWidget *()> makeDuplicatesSide;
+        std::function<QWidget *()> makeRenameSide;
+    };
+
+    explicit BRMainWindowController(Services services, QWidget *parent = nullptr);
+
+    // Decides the first content; call once, after construction.
+    void windowDidLoad();
+    // True on every launch but the first; the first marks itself.
+    bool didFinishLaunchingOnce();
+
+    void loadIntroViewController();
+    void loadHomeViewController();
+    void loadMainViewController();
+
+private:
+    void setContent(QWidget *content);
+
+    Services m_services;
+};
