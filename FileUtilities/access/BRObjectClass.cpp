@@ -1,7 +1,9 @@
 #include "BRObjectClass.h"
 
 #include "FolderBookmark.h"
+#include "SupportLinks.h"
 #include "ThumbnailRenderer.h"
+#include "Workspace.h"
 
 #include <QFileInfo>
 #include <QSettings>
@@ -80,4 +82,34 @@ bool BRObjectClass::startAccessingSecurityScopedResource(const QUrl &url)
 {
     const QFileInfo folder(url.toLocalFile());
     return folder.isDir() && folder.isReadable() && folder.isExecutable();
+}
+
+void BRObjectClass::openWebsite(Workspace &workspace)
+{
+    const QUrl url(SupportLinks::website());
+    if (url.isValid())
+        workspace.openURL(url);
+}
+
+void BRObjectClass::openTermsOfUse(Workspace &workspace)
+{
+    const QUrl url(SupportLinks::termsPage());
+    if (url.isValid())
+        workspace.openURL(url);
+}
+
+QUrl BRObjectClass::supportMailURL()
+{
+    // Mail programs take blanks in a mailto subject only as "%20".
+    QString text = QStringLiteral("mailto:") + SupportLinks::supportAddress() +
+                   QStringLiteral("?subject=") + SupportLinks::mailSubject();
+    text.replace(u' ', QStringLiteral("%20"));
+    return QUrl(text, QUrl::StrictMode);
+}
+
+void BRObjectClass::contactSupport(Workspace &workspace)
+{
+    const QUrl url = supportMailURL();
+    if (url.isValid())
+        workspace.openURL(url);
 }

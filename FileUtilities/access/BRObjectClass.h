@@ -13,6 +13,7 @@
 
 class QSettings;
 class ThumbnailCache;
+class Workspace;
 
 // Small helpers built where they are needed; an instance lives briefly and keeps only the
 // bookmarks it saved itself.
@@ -38,6 +39,13 @@ public:
     // Access to a granted folder: there is no sandbox scope here, so access is there when
     // the folder can be read and entered.
     static bool startAccessingSecurityScopedResource(const QUrl &url);
+
+    // The maker's website, and a mail to support with the subject filled in. Whether the
+    // desktop could open them is not the user's concern here: nothing is reported.
+    static void openWebsite(Workspace &workspace);
+    static void openTermsOfUse(Workspace &workspace);
+    static void contactSupport(Workspace &workspace);
+    static QUrl supportMailURL();
 
     // The picture of a file or folder at the given size, made now. There is always one:
     // a preview where the file has one, else the icon of its type.

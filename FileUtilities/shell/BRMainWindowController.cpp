@@ -1,11 +1,15 @@
 #include "BRMainWindowController.h"
 
 #include "AppDelegate.h"
+#include "BRAboutWindowController.h"
 #include "BRIntroViewController.h"
 #include "BRMainViewController.h"
 #include "BRObjectClass.h"
 #include "BRSelectHomeFolderViewController.h"
+#include "MenuActionsClass.h"
 
+#include <QCloseEvent>
+#include <QMenuBar>
 #include <QSettings>
 
 namespace {
@@ -22,6 +26,26 @@ BRMainWindowController::BRMainWindowController(Services services, QWidget *paren
     palette.setColor(QPalette::Window, Qt::white);
     setPalette(palette);
     m_services.appDelegate.window = this;
+
+    auto *menu = new MenuActionsClass(m_services.appDelegate, m_services.workspace, this);
+    menuBar()->addMenu(menu);
+    connect(menu, &MenuActionsClass::aboutAction, this, &BRMainWindowController::showAboutWindow);
+    connect(menu, &MenuActionsClass::quitAction, this, &QWidget::close);
+}
+
+void BRMainWindowController::showAboutWindow()
+{
+    BRAboutWindowController about(m_services.workspace, this);
+    about.exec();
+}
+
+void BRMainWindowController::closeEvent(QCloseEvent *event)
+{
+    if (m_services.appDelegate.applicationShouldTerminate() ==
+        AppDelegate::TerminateReply::TerminateNow)
+        event->accept();
+    else
+        event->ignore();
 }
 
 bool BRMainWindowController::didFinishLaunchingOnce()

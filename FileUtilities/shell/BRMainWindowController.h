@@ -7,7 +7,9 @@
 class AlertPresenter;
 class AppDelegate;
 class OpenPanel;
+class QCloseEvent;
 class QSettings;
+class Workspace;
 
 // The one main window. Each step of the start swaps its content: the intro on the first
 // launch, then the home folder choice, then the main view; later launches with a usable
@@ -22,6 +24,7 @@ public:
         AppDelegate &appDelegate;
         AlertPresenter &alerts;
         OpenPanel &openPanel;
+        Workspace &workspace;
         QSettings &settings;
         // Make the two tools' screens when the main view is built.
         std::function<QWidget *()> makeDuplicatesSide;
@@ -38,6 +41,11 @@ public:
     void loadIntroViewController();
     void loadHomeViewController();
     void loadMainViewController();
+    void showAboutWindow();
+
+protected:
+    // Closing the window quits, and asks first what quitting asks.
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     void setContent(QWidget *content);

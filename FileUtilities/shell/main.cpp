@@ -1,6 +1,7 @@
 #include "AppDelegate.h"
 #include "BRMainWindowController.h"
 #include "BRToolPlaceholderView.h"
+#include "DesktopWorkspace.h"
 #include "QtAlertPresenter.h"
 #include "QtOpenPanel.h"
 
@@ -17,11 +18,12 @@ int main(int argc, char *argv[])
     QSettings settings;
     QtAlertPresenter alerts;
     QtOpenPanel openPanel;
+    DesktopWorkspace workspace;
     AppDelegate appDelegate(alerts, settings);
     appDelegate.applicationDidFinishLaunching();
 
     BRMainWindowController window(
-        {appDelegate, alerts, openPanel, settings,
+        {appDelegate, alerts, openPanel, workspace, settings,
          [] {
              return new BRToolPlaceholderView(
                  QStringLiteral("Duplicates"),

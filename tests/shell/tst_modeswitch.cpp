@@ -5,8 +5,8 @@
 
 #include <QAbstractButton>
 #include <QPushButton>
-#include <QToolButton>
 #include <QTest>
+#include <QToolButton>
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include "BRSelectHomeFolderViewController.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
+#include "ScriptedWorkspace.h"
 #include "TestDir.h"
 
 #include <QDir>
@@ -22,12 +23,13 @@ private:
     {
         ScriptedAlertPresenter alerts;
         ScriptedOpenPanel panel;
+        ScriptedWorkspace workspace;
         AppDelegate appDelegate;
         BRMainWindowController window;
 
         explicit Launch(QSettings &settings)
             : appDelegate(alerts, settings),
-              window({appDelegate, alerts, panel, settings, [] { return new QWidget; },
+              window({appDelegate, alerts, panel, workspace, settings, [] { return new QWidget; },
                       [] {
                           return new QWidget;
                       }})
