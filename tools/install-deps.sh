@@ -8,6 +8,7 @@ packages=(
     qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libgl-dev
     shared-mime-info hicolor-icon-theme adwaita-icon-theme
     xvfb xauth
+    desktop-file-utils appstream
 )
 
 missing=()

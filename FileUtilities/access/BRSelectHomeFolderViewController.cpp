@@ -12,19 +12,29 @@
 BRSelectHomeFolderViewController::BRSelectHomeFolderViewController(OpenPanel &panel,
                                                                    QSettings *settings,
                                                                    QWidget *parent)
-    : QWidget(parent), m_panel(panel), m_settings(settings),
+    : BRImageBackgroundView(QStringLiteral("homebg"), parent), m_panel(panel), m_settings(settings),
       m_selectHomeFolderButton(new QPushButton(tr("Select Home Folder"), this))
 {
     setObjectName(QStringLiteral("BRSelectHomeFolderViewController"));
+    QPalette lightText = palette();
+    lightText.setColor(QPalette::WindowText, Qt::white);
+    setPalette(lightText);
     m_selectHomeFolderButton->setObjectName(QStringLiteral("selectHomeFolderButton"));
     auto *title = new QLabel(tr("Choose a Home Folder"), this);
+    QFont titleFont = title->font();
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.8);
+    title->setFont(titleFont);
+    m_selectHomeFolderButton->setMinimumSize(200, 44);
     auto *explanation = new QLabel(
         tr("Quillmere works inside the folder you choose here. You are asked once."), this);
     explanation->setWordWrap(true);
+    explanation->setAlignment(Qt::AlignCenter);
     auto *layout = new QVBoxLayout(this);
     layout->addStretch();
     layout->addWidget(title, 0, Qt::AlignHCenter);
-    layout->addWidget(explanation, 0, Qt::AlignHCenter);
+    layout->addSpacing(8);
+    layout->addWidget(explanation); // full width, so that wrapping has room
+    layout->addSpacing(20);
     layout->addWidget(m_selectHomeFolderButton, 0, Qt::AlignHCenter);
     layout->addStretch();
     connect(m_selectHomeFolderButton, &QPushButton::clicked, this,

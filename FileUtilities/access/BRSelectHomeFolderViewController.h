@@ -1,7 +1,8 @@
 #pragma once
 
+#include "BRImageBackgroundView.h"
+
 #include <QString>
-#include <QWidget>
 
 class OpenPanel;
 class QPushButton;
@@ -10,7 +11,7 @@ class QSettings;
 // The screen that asks, once, for the home folder the program may work in: an open panel
 // that starts at the real home directory and lets only folders at or below it be chosen.
 // A choice is kept as a bookmark; when access to it holds, the screen moves on.
-class BRSelectHomeFolderViewController : public QWidget
+class BRSelectHomeFolderViewController : public BRImageBackgroundView
 {
     Q_OBJECT
 

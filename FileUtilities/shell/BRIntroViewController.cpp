@@ -7,9 +7,13 @@
 #include <QVBoxLayout>
 
 BRIntroViewController::BRIntroViewController(QWidget *parent)
-    : QWidget(parent), m_gotItButton(new QPushButton(QStringLiteral("Got it!"), this))
+    : BRImageBackgroundView(QStringLiteral("intro_bg"), parent),
+      m_gotItButton(new QPushButton(QStringLiteral("Got it!"), this))
 {
     setObjectName(QStringLiteral("BRIntroViewController"));
+    QPalette lightText = palette();
+    lightText.setColor(QPalette::WindowText, Qt::white);
+    setPalette(lightText);
     m_gotItButton->setObjectName(QStringLiteral("gotItButton"));
     auto *title = new QLabel(tr("Welcome to Quillmere"), this);
     QFont titleFont = title->font();

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QWidget>
+#include "BRImageBackgroundView.h"
 
 class QPushButton;
 
 // The first screen a new user sees: what Quillmere does, and "Got it!".
-class BRIntroViewController : public QWidget
+class BRIntroViewController : public BRImageBackgroundView
 {
     Q_OBJECT
 

@@ -6,6 +6,7 @@
 #include "QtOpenPanel.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QSettings>
 
 int main(int argc, char *argv[])
@@ -14,6 +15,8 @@ int main(int argc, char *argv[])
     QApplication::setOrganizationName(QStringLiteral("Brackenhale"));
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("app.brackenhale.Quillmere"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/quillmere.svg")));
 
     QSettings settings;
     QtAlertPresenter alerts;

@@ -1,0 +1,20 @@
+#include "BRImageBackgroundView.h"
+
+#include <QPainter>
+
+BRImageBackgroundView::BRImageBackgroundView(const QString &imageName, QWidget *parent)
+    : QWidget(parent), m_image(QStringLiteral(":/images/") + imageName + QStringLiteral(".svg"))
+{}
+
+void BRImageBackgroundView::paintEvent(QPaintEvent *)
+{
+    if (!m_image.isValid())
+        return;
+    QPainter painter(this);
+    // Cover the view, keeping the image's proportions, centred.
+    const QSizeF image = m_image.defaultSize();
+    const QSizeF cover = image.scaled(size(), Qt::KeepAspectRatioByExpanding);
+    const QRectF target((width() - cover.width()) / 2, (height() - cover.height()) / 2,
+                        cover.width(), cover.height());
+    m_image.render(&painter, target);
+}
