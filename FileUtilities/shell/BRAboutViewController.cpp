@@ -1,43 +1,45 @@
 #include "BRAboutViewController.h"
 
-#include "BRColorHelper.h"
+#include "BRAboutScreenContactAndTermsOfUseButton.h"
+#include "BRAboutScreenMoreAppsButton.h"
 #include "BRObjectClass.h"
 
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
 
-QPushButton *makeLinkButton(const QString &objectName, const QString &title, int pointSize,
-                            QWidget *parent)
+template <typename Button>
+Button *makeLinkButton(const QString &objectName, const QString &title, int pointSize,
+                       QWidget *parent)
 {
-    auto *button = new QPushButton(title, parent);
+    auto *button = new Button(title, parent);
     button->setObjectName(objectName);
     QFont font = button->font();
     font.setPointSize(pointSize);
     button->setFont(font);
-    QPalette palette = button->palette();
-    palette.setColor(QPalette::ButtonText, Qt::white);
-    palette.setColor(QPalette::Button, BRColorHelper::color(35, 196, 142, 1.0));
-    button->setPalette(palette);
-    button->setAutoFillBackground(true);
     return button;
 }
 
 } // namespace
 
 BRAboutViewController::BRAboutViewController(Workspace &workspace, QWidget *parent)
-    : QWidget(parent), m_versionLabel(new QLabel(versionText(), this)),
-      m_contactSupportButton(makeLinkButton(QStringLiteral("contactSupportButton"),
-                                            QStringLiteral("Contact Support"), 13, this)),
-      m_termsOfUseButton(makeLinkButton(QStringLiteral("termsOfUseButton"),
-                                        QStringLiteral("Terms of Use"), 13, this)),
-      m_urlButton(makeLinkButton(QStringLiteral("urlButton"),
-                                 QStringLiteral("More Apps from Brackenhale"), 14, this))
+    : BRImageBackgroundView(QStringLiteral("intro_bg"), parent),
+      m_versionLabel(new QLabel(versionText(), this)),
+      m_contactSupportButton(makeLinkButton<BRAboutScreenContactAndTermsOfUseButton>(
+          QStringLiteral("contactSupportButton"), QStringLiteral("Contact Support"), 13, this)),
+      m_termsOfUseButton(makeLinkButton<BRAboutScreenContactAndTermsOfUseButton>(
+          QStringLiteral("termsOfUseButton"), QStringLiteral("Terms of Use"), 13, this)),
+      m_urlButton(makeLinkButton<BRAboutScreenMoreAppsButton>(
+          QStringLiteral("urlButton"), QStringLiteral("More Apps from Brackenhale"), 14, this))
 {
     setObjectName(QStringLiteral("BRAboutViewController"));
+    QPalette lightText = palette();
+    lightText.setColor(QPalette::WindowText, Qt::white);
+    setPalette(lightText);
     m_versionLabel->setObjectName(QStringLiteral("versionLabel"));
     auto *name = new QLabel(QStringLiteral("Quillmere"), this);
     QFont nameFont = name->font();
@@ -49,6 +51,9 @@ BRAboutViewController::BRAboutViewController(Workspace &workspace, QWidget *pare
     links->addWidget(m_termsOfUseButton);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(32, 24, 32, 24);
+    auto *icon = new QLabel(this);
+    icon->setPixmap(QIcon(QStringLiteral(":/images/quillmere.svg")).pixmap(QSize(64, 64)));
+    layout->addWidget(icon, 0, Qt::AlignHCenter);
     layout->addWidget(name, 0, Qt::AlignHCenter);
     layout->addWidget(m_versionLabel, 0, Qt::AlignHCenter);
     layout->addSpacing(16);

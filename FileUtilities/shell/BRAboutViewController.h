@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QWidget>
+#include "BRImageBackgroundView.h"
 
 class QLabel;
 class QPushButton;
 class Workspace;
 
 // The About screen: the version, and the ways to the maker.
-class BRAboutViewController : public QWidget
+class BRAboutViewController : public BRImageBackgroundView
 {
     Q_OBJECT
 

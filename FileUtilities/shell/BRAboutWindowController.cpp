@@ -10,6 +10,10 @@ BRAboutWindowController::BRAboutWindowController(Workspace &workspace, QWidget *
     setObjectName(QStringLiteral("BRAboutWindowController"));
     setWindowTitle(QStringLiteral("About Quillmere"));
     setModal(true);
+    // Only the close button: About neither grows nor hides in the dock.
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowCloseButtonHint);
+    setFixedSize(420, 340);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(new BRAboutViewController(workspace, this));

@@ -17,14 +17,11 @@ const QString launchedBeforeKey = QStringLiteral("hasAppBeenLaunchedBefore");
 }
 
 BRMainWindowController::BRMainWindowController(Services services, QWidget *parent)
-    : QMainWindow(parent), m_services(std::move(services))
+    : CustomWindow(parent), m_services(std::move(services))
 {
     setObjectName(QStringLiteral("BRMainWindowController"));
     setWindowTitle(QStringLiteral("Quillmere"));
     resize(960, 640);
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::Window, Qt::white);
-    setPalette(palette);
     m_services.appDelegate.window = this;
 
     auto *menu = new MenuActionsClass(m_services.appDelegate, m_services.workspace, this);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMainWindow>
+#include "CustomWindow.h"
 
 #include <functional>
 
@@ -14,7 +14,7 @@ class Workspace;
 // The one main window. Each step of the start swaps its content: the intro on the first
 // launch, then the home folder choice, then the main view; later launches with a usable
 // home folder bookmark go to the main view at once.
-class BRMainWindowController : public QMainWindow
+class BRMainWindowController : public CustomWindow
 {
     Q_OBJECT
 
