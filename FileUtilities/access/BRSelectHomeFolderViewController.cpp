@@ -12,13 +12,11 @@
 BRSelectHomeFolderViewController::BRSelectHomeFolderViewController(OpenPanel &panel,
                                                                    QSettings *settings,
                                                                    QWidget *parent)
-    : BRImageBackgroundView(QStringLiteral("homebg"), parent), m_panel(panel), m_settings(settings),
+    : BRImageBackgroundView(QStringLiteral("homebg"), Tone::Dark, parent), m_panel(panel),
+      m_settings(settings),
       m_selectHomeFolderButton(new QPushButton(tr("Select Home Folder"), this))
 {
     setObjectName(QStringLiteral("BRSelectHomeFolderViewController"));
-    QPalette lightText = palette();
-    lightText.setColor(QPalette::WindowText, Qt::white);
-    setPalette(lightText);
     m_selectHomeFolderButton->setObjectName(QStringLiteral("selectHomeFolderButton"));
     auto *title = new QLabel(tr("Choose a Home Folder"), this);
     QFont titleFont = title->font();

@@ -2,9 +2,16 @@
 
 #include <QPainter>
 
-BRImageBackgroundView::BRImageBackgroundView(const QString &imageName, QWidget *parent)
+BRImageBackgroundView::BRImageBackgroundView(const QString &imageName, Tone imageTone,
+                                             QWidget *parent)
     : QWidget(parent), m_image(QStringLiteral(":/images/") + imageName + QStringLiteral(".svg"))
-{}
+{
+    if (imageTone == Tone::Dark && m_image.isValid()) {
+        QPalette lightText = palette();
+        lightText.setColor(QPalette::WindowText, Qt::white);
+        setPalette(lightText);
+    }
+}
 
 void BRImageBackgroundView::paintEvent(QPaintEvent *)
 {

@@ -11,7 +11,14 @@ class BRImageBackgroundView : public QWidget
     Q_OBJECT
 
 public:
-    explicit BRImageBackgroundView(const QString &imageName, QWidget *parent = nullptr);
+    // Text on a dark image is drawn light, on a light image dark.
+    enum class Tone
+    {
+        Light,
+        Dark
+    };
+
+    BRImageBackgroundView(const QString &imageName, Tone imageTone, QWidget *parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -27,7 +27,7 @@ Button *makeLinkButton(const QString &objectName, const QString &title, int poin
 } // namespace
 
 BRAboutViewController::BRAboutViewController(Workspace &workspace, QWidget *parent)
-    : BRImageBackgroundView(QStringLiteral("intro_bg"), parent),
+    : BRImageBackgroundView(QStringLiteral("intro_bg"), Tone::Dark, parent),
       m_versionLabel(new QLabel(versionText(), this)),
       m_contactSupportButton(makeLinkButton<BRAboutScreenContactAndTermsOfUseButton>(
           QStringLiteral("contactSupportButton"), QStringLiteral("Contact Support"), 13, this)),
@@ -37,9 +37,6 @@ BRAboutViewController::BRAboutViewController(Workspace &workspace, QWidget *pare
           QStringLiteral("urlButton"), QStringLiteral("More Apps from Brackenhale"), 14, this))
 {
     setObjectName(QStringLiteral("BRAboutViewController"));
-    QPalette lightText = palette();
-    lightText.setColor(QPalette::WindowText, Qt::white);
-    setPalette(lightText);
     m_versionLabel->setObjectName(QStringLiteral("versionLabel"));
     auto *name = new QLabel(QStringLiteral("Quillmere"), this);
     QFont nameFont = name->font();

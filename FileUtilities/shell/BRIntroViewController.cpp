@@ -7,13 +7,10 @@
 #include <QVBoxLayout>
 
 BRIntroViewController::BRIntroViewController(QWidget *parent)
-    : BRImageBackgroundView(QStringLiteral("intro_bg"), parent),
+    : BRImageBackgroundView(QStringLiteral("intro_bg"), Tone::Dark, parent),
       m_gotItButton(new QPushButton(QStringLiteral("Got it!"), this))
 {
     setObjectName(QStringLiteral("BRIntroViewController"));
-    QPalette lightText = palette();
-    lightText.setColor(QPalette::WindowText, Qt::white);
-    setPalette(lightText);
     m_gotItButton->setObjectName(QStringLiteral("gotItButton"));
     auto *title = new QLabel(tr("Welcome to Quillmere"), this);
     QFont titleFont = title->font();
