@@ -4,6 +4,7 @@
 #include "DesktopWorkspace.h"
 #include "QtAlertPresenter.h"
 #include "QtOpenPanel.h"
+#include "ToolTipDelayStyle.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -24,6 +25,9 @@ int main(int argc, char *argv[])
     DesktopWorkspace workspace;
     AppDelegate appDelegate(alerts, settings);
     appDelegate.applicationDidFinishLaunching();
+    // The application takes ownership of its style.
+    QApplication::setStyle(new ToolTipDelayStyle(
+        settings.value(QStringLiteral("NSInitialToolTipDelay"), 700).toInt()));
 
     BRMainWindowController window(
         {appDelegate, alerts, openPanel, workspace, settings,

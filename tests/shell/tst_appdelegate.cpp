@@ -1,6 +1,7 @@
 #include "AppDelegate.h"
 #include "ScriptedAlertPresenter.h"
 #include "TestDir.h"
+#include "ToolTipDelayStyle.h"
 
 #include <QSettings>
 #include <QTest>
@@ -77,7 +78,10 @@ private Q_SLOTS:
         app.duplicateFilesCount = groupsHeld;
         QCOMPARE(app.applicationShouldTerminateAfterLastWindowClosed(), terminates);
         app.applicationDidFinishLaunching();
-        QCOMPARE(settings.value(QStringLiteral("NSInitialToolTipDelay")).toInt(), 1);
+        const int delay = settings.value(QStringLiteral("NSInitialToolTipDelay")).toInt();
+        QCOMPARE(delay, 1);
+        ToolTipDelayStyle style(delay);
+        QCOMPARE(style.styleHint(QStyle::SH_ToolTip_WakeUpDelay), 1);
     }
 };
 
