@@ -12,8 +12,7 @@
 BRSelectHomeFolderViewController::BRSelectHomeFolderViewController(OpenPanel &panel,
                                                                    QSettings *settings,
                                                                    QWidget *parent)
-    : BRImageBackgroundView(QStringLiteral("homebg"), Tone::Dark, parent), m_panel(panel),
-      m_settings(settings),
+    : BRSelectHomeView(parent), m_panel(panel), m_settings(settings),
       m_selectHomeFolderButton(new QPushButton(tr("Select Home Folder"), this))
 {
     setObjectName(QStringLiteral("BRSelectHomeFolderViewController"));

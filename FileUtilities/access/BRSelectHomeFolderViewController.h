@@ -1,6 +1,6 @@
 #pragma once
 
-#include "BRImageBackgroundView.h"
+#include "BRSelectHomeView.h"
 
 #include <QString>
 
@@ -11,7 +11,7 @@ class QSettings;
 // The screen that asks, once, for the home folder the program may work in: an open panel
 // that starts at the real home directory and lets only folders at or below it be chosen.
 // A choice is kept as a bookmark; when access to it holds, the screen moves on.
-class BRSelectHomeFolderViewController : public BRImageBackgroundView
+class BRSelectHomeFolderViewController : public BRSelectHomeView
 {
     Q_OBJECT
 

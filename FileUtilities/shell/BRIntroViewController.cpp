@@ -1,17 +1,17 @@
 #include "BRIntroViewController.h"
 
-#include "BRColorHelper.h"
+#include "BRIntroGotItButton.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 BRIntroViewController::BRIntroViewController(QWidget *parent)
-    : BRImageBackgroundView(QStringLiteral("intro_bg"), Tone::Dark, parent),
-      m_gotItButton(new QPushButton(QStringLiteral("Got it!"), this))
+    : BRIntroView(parent), m_gotItButton(new BRIntroGotItButton(this))
 {
     setObjectName(QStringLiteral("BRIntroViewController"));
     m_gotItButton->setObjectName(QStringLiteral("gotItButton"));
+    m_gotItButton->setText(QStringLiteral("Got it!"));
     auto *title = new QLabel(tr("Welcome to Quillmere"), this);
     QFont titleFont = title->font();
     titleFont.setPointSizeF(titleFont.pointSizeF() * 2);
@@ -26,11 +26,6 @@ BRIntroViewController::BRIntroViewController(QWidget *parent)
     QFont buttonFont = m_gotItButton->font();
     buttonFont.setPointSize(20);
     m_gotItButton->setFont(buttonFont);
-    QPalette palette = m_gotItButton->palette();
-    palette.setColor(QPalette::ButtonText, BRColorHelper::color(255, 255, 255, 1.0));
-    palette.setColor(QPalette::Button, BRColorHelper::color(31, 201, 126, 1.0));
-    m_gotItButton->setPalette(palette);
-    m_gotItButton->setAutoFillBackground(true);
     m_gotItButton->setMinimumSize(180, 52);
 
     auto *layout = new QVBoxLayout(this);

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "BRImageBackgroundView.h"
+#include "BRIntroView.h"
 
 class QPushButton;
 
 // The first screen a new user sees: what Quillmere does, and "Got it!".
-class BRIntroViewController : public BRImageBackgroundView
+class BRIntroViewController : public BRIntroView
 {
     Q_OBJECT
 

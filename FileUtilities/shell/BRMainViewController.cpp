@@ -3,6 +3,7 @@
 #include "AlertPresenter.h"
 #include "BRColorHelper.h"
 #include "BRDuplicateFilesMainViewDelegate.h"
+#include "BRMainViewTabButton.h"
 #include "BRTabViewController.h"
 
 #include <QFile>
@@ -28,9 +29,8 @@ QToolButton *makeImageButton(const QString &objectName, const QString &accessibl
 
 QPushButton *makeTitleButton(const QString &objectName, QWidget *parent)
 {
-    auto *button = new QPushButton(parent);
+    auto *button = new BRMainViewTabButton(parent);
     button->setObjectName(objectName);
-    button->setFlat(true);
     return button;
 }
 

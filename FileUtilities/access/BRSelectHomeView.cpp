@@ -1,0 +1,5 @@
+#include "BRSelectHomeView.h"
+
+BRSelectHomeView::BRSelectHomeView(QWidget *parent)
+    : BRImageBackgroundView(QStringLiteral("homebg"), Tone::Dark, parent)
+{}

@@ -1,0 +1,11 @@
+#include "BRDuplicateFilePreviewTableCustomClipView.h"
+
+BRDuplicateFilePreviewTableCustomClipView::BRDuplicateFilePreviewTableCustomClipView(
+    QWidget *parent)
+    : QWidget(parent)
+{
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Window, Qt::transparent);
+    setPalette(palette);
+    setAutoFillBackground(true);
+}

@@ -1,0 +1,5 @@
+#include "BRDuplicateScanStartView.h"
+
+BRDuplicateScanStartView::BRDuplicateScanStartView(QWidget *parent)
+    : BRImageBackgroundView(QStringLiteral("bg"), Tone::Light, parent)
+{}

@@ -1,0 +1,5 @@
+#include "BRDuplicateStatusView.h"
+
+BRDuplicateStatusView::BRDuplicateStatusView(QWidget *parent)
+    : BRImageBackgroundView(QStringLiteral("bg"), Tone::Light, parent)
+{}

@@ -1,0 +1,5 @@
+#include "BRIntroView.h"
+
+BRIntroView::BRIntroView(QWidget *parent)
+    : BRImageBackgroundView(QStringLiteral("intro_bg"), Tone::Dark, parent)
+{}

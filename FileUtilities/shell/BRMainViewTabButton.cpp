@@ -1,0 +1,6 @@
+#include "BRMainViewTabButton.h"
+
+BRMainViewTabButton::BRMainViewTabButton(QWidget *parent) : QPushButton(parent)
+{
+    setFlat(true);
+}

@@ -1,0 +1,5 @@
+#include "BRRenameDisableVibrancePopUpButton.h"
+
+BRRenameDisableVibrancePopUpButton::BRRenameDisableVibrancePopUpButton(QWidget *parent)
+    : QComboBox(parent)
+{}
