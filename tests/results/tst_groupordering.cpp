@@ -1,0 +1,76 @@
+#include "GroupOrdering.h"
+
+#include <QTest>
+
+// Groups k1..k5 in arrival order; k0 arrived too but has since gone from the map.
+class tst_GroupOrdering : public QObject
+{
+    Q_OBJECT
+
+private:
+    GroupMap m_groups;
+    const QStringList m_keysOfAll{QStringLiteral("k1"), QStringLiteral("k0"), QStringLiteral("k2"),
+                                  QStringLiteral("k3"), QStringLiteral("k4"), QStringLiteral("k5")};
+
+    void add(const char *key, const char *name, qint64 totalSize, const char *type)
+    {
+        GroupRecord record;
+        record.fileName = QString::fromUtf8(name);
+        record.totalSize = totalSize;
+        record.fileType = QString::fromUtf8(type);
+        m_groups.insert(QString::fromLatin1(key), record);
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        add("k1", "img10.jpg", 300, "JPEG image");
+        add("k2", "IMG2.jpg", 900, "JPEG image");
+        add("k3", "holiday.mov", 300, "QuickTime video");
+        add("k4", "My holiday.mov", 100, "audio");
+        add("k5", "img11.jpg", 500, "Folder");
+    }
+
+    void sorting_data()
+    {
+        QTest::addColumn<QString>("sortType");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("All: arrival, gone groups left out")
+            << QStringLiteral("All") << QStringLiteral("k1 k2 k3 k4 k5");
+        // Digits as numbers, case aside: IMG2 before img10 before img11.
+        QTest::newRow("Name") << QStringLiteral("Name") << QStringLiteral("k3 k2 k1 k5 k4");
+        // Largest first; k1 and k3 are equal and keep their arrival order.
+        QTest::newRow("Size") << QStringLiteral("Size") << QStringLiteral("k2 k5 k1 k3 k4");
+        // Code points: capitals before small letters.
+        QTest::newRow("Type") << QStringLiteral("Type") << QStringLiteral("k5 k1 k2 k3 k4");
+        QTest::newRow("Sort By sorts nothing")
+            << QStringLiteral("Sort By") << QStringLiteral("k1 k2 k3 k4 k5");
+    }
+    void sorting()
+    {
+        QFETCH(QString, sortType);
+        QFETCH(QString, order);
+        QCOMPARE(GroupOrdering::sortedKeys(sortType, m_keysOfAll, m_groups).join(u' '), order);
+    }
+
+    void search_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QString>("hits");
+        QTest::newRow("prefix, case aside") << QStringLiteral("HOL") << QStringLiteral("k3");
+        QTest::newRow("a later word is not a prefix")
+            << QStringLiteral("holiday") << QStringLiteral("k3");
+        QTest::newRow("several, in list order")
+            << QStringLiteral("img1") << QStringLiteral("k1 k5");
+        QTest::newRow("nothing") << QStringLiteral("zebra") << QString();
+    }
+    void search()
+    {
+        QFETCH(QString, query);
+        QFETCH(QString, hits);
+        QCOMPARE(GroupOrdering::searchHits(query, m_keysOfAll, m_groups).join(u' '), hits);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_GroupOrdering)
+#include "tst_groupordering.moc"
