@@ -1,8 +1,8 @@
 #include "DuplicateListing.h"
 
-#include <QLocale>
+#include "GroupOrdering.h"
 
-#include <algorithm>
+#include <QLocale>
 
 QString DuplicateListing::sizeText(qint64 bytes)
 {
@@ -12,25 +12,11 @@ QString DuplicateListing::sizeText(qint64 bytes)
 QByteArray DuplicateListing::format(const GroupMap &groups, const QStringList &keys,
                                     qint64 totalDuplicates, qint64 totalDupesSize)
 {
-    struct Entry
-    {
-        QString key;
-        const GroupRecord *group;
-    };
-    std::vector<Entry> entries;
-    entries.reserve(static_cast<size_t>(keys.size()));
-    for (const QString &key : keys) {
-        if (const GroupRecord *group = groups.find(key))
-            entries.push_back({key, group});
-    }
-    // Largest first; equal sizes keep discovery order, so the listing is reproducible.
-    std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
-        return a.group->totalSize > b.group->totalSize;
-    });
-
+    // The results screen's "Size" order: largest first, equal sizes in discovery order, so
+    // the listing is reproducible.
     QString out;
-    for (const Entry &entry : entries) {
-        const GroupRecord &group = *entry.group;
+    for (const QString &key : GroupOrdering::sortedKeys(QStringLiteral("Size"), keys, groups)) {
+        const GroupRecord &group = *groups.find(key);
         out += group.fileName + QStringLiteral(" (") + group.fileType + QStringLiteral("): ") +
                QString::number(group.filePath.size()) + QStringLiteral(" copies of ") +
                sizeText(group.fileSize) + QStringLiteral(", ") + sizeText(group.totalSize) +
