@@ -171,5 +171,4 @@ void BRMainViewController::setButtonImage(QToolButton *button, const QString &im
     if (!QFile::exists(path))
         return;
     button->setIcon(QIcon(path));
-    button->setProperty("imageName", imageName);
 }

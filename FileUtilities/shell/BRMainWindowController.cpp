@@ -61,16 +61,15 @@ void BRMainWindowController::windowDidLoad()
         loadIntroViewController();
         return;
     }
-    // Without a usable bookmark the window offers the home folder choice again.
-    loadHomeViewController();
     const QByteArray bookmark =
         m_services.settings.value(BRObjectClass::bookmarkedDataKey()).toByteArray();
-    if (bookmark.isEmpty())
-        return;
-    const auto home = BRObjectClass(&m_services.settings).resolveBookmarkData(bookmark);
-    if (!home || !BRObjectClass::startAccessingSecurityScopedResource(*home))
-        return;
-    loadMainViewController();
+    const auto home = bookmark.isEmpty()
+                          ? std::nullopt
+                          : BRObjectClass(&m_services.settings).resolveBookmarkData(bookmark);
+    if (home && BRObjectClass::startAccessingSecurityScopedResource(*home))
+        loadMainViewController();
+    else
+        loadHomeViewController(); // without a usable bookmark, the choice is offered again
 }
 
 void BRMainWindowController::loadIntroViewController()
