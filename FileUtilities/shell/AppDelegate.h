@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ApplicationStatus.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -11,7 +13,7 @@ class QSettings;
 // The application's delegate: the two facts every decision to quit turns on, the guards
 // on quitting, and the plain alert all screens use. One exists per run; screens are given
 // it rather than looking it up.
-class AppDelegate : public QObject
+class AppDelegate : public QObject, public ApplicationStatus
 {
     Q_OBJECT
 
@@ -24,10 +26,6 @@ public:
 
     AppDelegate(AlertPresenter &alerts, QSettings &settings, QObject *parent = nullptr);
 
-    // True while a duplicate scan runs.
-    bool duplicateScanStatus = false;
-    // The groups a finished scan holds; 0 means quitting loses nothing on that side.
-    int duplicateFilesCount = 0;
     QPointer<QWidget> window;
 
     void applicationDidFinishLaunching();

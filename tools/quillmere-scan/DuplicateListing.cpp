@@ -1,12 +1,11 @@
 #include "DuplicateListing.h"
 
+#include "ByteCountFormatter.h"
 #include "GroupOrdering.h"
-
-#include <QLocale>
 
 QString DuplicateListing::sizeText(qint64 bytes)
 {
-    return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeIecFormat);
+    return ByteCountFormatter::binary(bytes);
 }
 
 QByteArray DuplicateListing::format(const GroupMap &groups, const QStringList &keys,
