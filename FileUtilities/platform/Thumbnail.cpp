@@ -13,3 +13,8 @@ QImage Thumbnail::image() const
         return {};
     return m_cache ? m_cache->imageFor(m_path, m_size) : ThumbnailRenderer::render(m_path, m_size);
 }
+
+QImage Thumbnail::cachedImage() const
+{
+    return (isNull() || !m_cache) ? QImage() : m_cache->cachedImageFor(m_path, m_size);
+}

@@ -23,6 +23,8 @@ public:
 
     // Makes or fetches the picture; a null handle gives a null image. Any thread.
     QImage image() const;
+    // The picture if it was made already, else a null image; cheap enough for painting.
+    QImage cachedImage() const;
 
 private:
     QString m_path;

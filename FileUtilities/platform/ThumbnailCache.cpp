@@ -25,3 +25,10 @@ QImage ThumbnailCache::imageFor(const QString &path, QSize size)
     m_images.insert(key, new QImage(image), qMax<qsizetype>(1, image.sizeInBytes()));
     return image;
 }
+
+QImage ThumbnailCache::cachedImageFor(const QString &path, QSize size) const
+{
+    QMutexLocker locker(&m_mutex);
+    const QImage *cached = m_images.object(keyFor(path, size));
+    return cached ? *cached : QImage();
+}

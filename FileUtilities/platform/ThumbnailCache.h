@@ -15,10 +15,12 @@ public:
     explicit ThumbnailCache(qsizetype budgetBytes = 32 * 1024 * 1024);
 
     QImage imageFor(const QString &path, QSize size);
+    // The picture if it was made already; a null image otherwise. Never makes one.
+    QImage cachedImageFor(const QString &path, QSize size) const;
 
 private:
     static QString keyFor(const QString &path, QSize size);
 
     mutable QMutex m_mutex;
-    QCache<QString, QImage> m_images;
+    mutable QCache<QString, QImage> m_images; // a lookup marks an entry as recently used
 };

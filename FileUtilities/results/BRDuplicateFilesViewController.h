@@ -10,9 +10,11 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 #include <QUrl>
 #include <QWidget>
 
+#include <atomic>
 #include <memory>
 #include <optional>
 
@@ -31,9 +33,9 @@ class BRDuplicateTableView;
 class DuplicateTableModel;
 class QLabel;
 class QLineEdit;
-class QTimer;
 class RowAnchoredPopover;
 class ScanSession;
+class ThumbnailLoader;
 class Workspace;
 
 // The results screen of the duplicate finder and the store behind it.
@@ -119,7 +121,10 @@ public:
     void createThumbNailForPath(const QString &path, double width, double height);
     bool showQuitAlert(const QString &title, const QString &message);
     void showAlert(const QString &title, const QString &description);
-    void reloadData();
+    // Asks for the table to be redrawn; `appendedOnly` when rows were only added at the end.
+    void reloadData(bool appendedOnly = false);
+    int numberOfRowsInTableView() const;
+    double heightOfRow(int row) const;
 
     // What the store holds, for the table and for inspection.
     bool scanRunning() const { return m_scanRunning; }
@@ -158,11 +163,17 @@ private:
     void pollScanProgress();
     qsizetype rowOnScreen(const QString &key) const;
     void rebuildAllDataIndex();
+    // The duplicate side's screen at `index`: 0 the start screen, 2 the status screen.
+    QWidget *siblingScreen(int index) const;
     template <typename Groups> void countTotals(const Groups &groups);
 
     AlertPresenter &m_alerts;
     Workspace &m_workspace;
     ApplicationStatus *m_appDelegateTarget;
+    ThumbnailLoader *m_thumbnails;
+    QTimer *m_progressTimer;
+    QTimer m_reloadTimer;
+    bool m_reloadAppendsOnly = true;
     Timings m_timings;
 
     QLineEdit *m_searchField = nullptr;
@@ -204,7 +215,6 @@ private:
     BRDuplicateSortAndCancelDelegate *m_sortAndCancelTabViewDelegate = nullptr;
 
     SubTypeFilter m_subTypes;
-    quint64 m_scanGeneration = 0; // reports of older scans are dropped
+    std::atomic<quint64> m_scanGeneration{0}; // reports of older scans are dropped
     int m_reloadCount = 0;
-    QTimer *m_progressTimer = nullptr;
 };

@@ -85,12 +85,17 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
             break;
         }
         const QString &entryPath = entry->path;
+        m_entriesScanned.fetch_add(1, std::memory_order_relaxed);
         // Application bundles are skipped entry by entry, by a plain substring test.
         if (pathHasApplicationMarker(*entry) || entryPath.isEmpty())
             continue;
 
         const QString &parent = entry->folderPath;
         if (entry->isDirectory()) {
+            {
+                QMutexLocker progressLocker(&m_progressMutex);
+                m_currentFolder = entryPath;
+            }
             const QString name = entry->name();
             const QString folderType = FileTypeDatabase::folderDescription();
             if (!m_fileDict.contains(parent))
@@ -374,6 +379,23 @@ void BRDuplicateFinderClass::setDictOfDupeFiles(const GroupMap &groups)
 {
     QMutexLocker locker(&m_tablesMutex);
     m_dictOfDupeFiles = groups;
+}
+
+void BRDuplicateFinderClass::applyDeletion(qint64 totalDupesSize, const GroupMap &groups,
+                                           qint64 fileSize, const QString &fileType,
+                                           const QString &fileName, const QStringList &filePaths,
+                                           const QString &bucketKey)
+{
+    QMutexLocker locker(&m_tablesMutex);
+    m_totalDupesSize = totalDupesSize;
+    m_dictOfDupeFiles = groups;
+    storeBucket(fileSize, fileType, fileName, filePaths, bucketKey);
+}
+
+BRDuplicateFinderClass::Progress BRDuplicateFinderClass::progress() const
+{
+    QMutexLocker locker(&m_progressMutex);
+    return Progress{m_entriesScanned.load(std::memory_order_relaxed), m_currentFolder};
 }
 
 void BRDuplicateFinderClass::removeGroup(const QString &key)

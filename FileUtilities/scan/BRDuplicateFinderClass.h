@@ -61,9 +61,22 @@ public:
     GroupMap dictOfDupeFiles() const;
     void setDictOfDupeFiles(const GroupMap &groups);
     void removeGroup(const QString &key);
+    // The three writes of a deletion, made at once so that the scan never matches against
+    // a half-updated group: the totals, the groups, then the group's bucket.
+    void applyDeletion(qint64 totalDupesSize, const GroupMap &groups, qint64 fileSize,
+                       const QString &fileType, const QString &fileName,
+                       const QStringList &filePaths, const QString &bucketKey);
     qint64 totalDupes() const;
     qint64 totalDupesSize() const;
     void setTotalDupesSize(qint64 size);
+
+    // How far the walk has come, for a progress display; any thread, never waits long.
+    struct Progress
+    {
+        qint64 entriesScanned = 0;
+        QString currentFolder;
+    };
+    Progress progress() const;
 
     // The scan's own tables, for inspection.
     QHash<QString, BucketRecord> dict() const;
@@ -101,6 +114,9 @@ private:
     QHash<QString, BucketRecord> m_dict;
     QHash<QString, FolderRecord> m_fileDict;
     std::atomic<bool> m_cancelActive{false};
+    std::atomic<qint64> m_entriesScanned{0};
+    mutable QMutex m_progressMutex; // guards m_currentFolder only
+    QString m_currentFolder;
     qint64 m_totalDupes = 0;
     qint64 m_totalDupesSize = 0;
     Stack<StackEntry> m_stackOfArray;

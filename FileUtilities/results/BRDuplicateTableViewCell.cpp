@@ -1,0 +1,163 @@
+#include "BRDuplicateTableViewCell.h"
+
+#include "BRColorHelper.h"
+#include "BRNoSearchResultCell.h"
+#include "ByteCountFormatter.h"
+#include "DuplicateTableModel.h"
+#include "GroupRecord.h"
+#include "ThumbnailLoader.h"
+#include "UniformTypes.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+constexpr int thumbnailSide = 72;
+constexpr int bulletSide = 38;
+
+QFont fontOf(int pixelSize, QFont::Weight weight = QFont::Normal)
+{
+    QFont font(QStringLiteral("Helvetica Neue"));
+    font.setPixelSize(pixelSize);
+    font.setWeight(weight);
+    return font;
+}
+
+} // namespace
+
+BRDuplicateTableViewCell::BRDuplicateTableViewCell(ThumbnailLoader &thumbnails, QObject *parent)
+    : QStyledItemDelegate(parent), m_thumbnails(thumbnails)
+{}
+
+QString BRDuplicateTableViewCell::bulletImageName(const QString &fileUTI,
+                                                  const TypeConformance &types)
+{
+    if (types.conformsTo(fileUTI, UniformTypes::audio))
+        return QStringLiteral("circle_pink");
+    if (types.conformsTo(fileUTI, UniformTypes::movie))
+        return QStringLiteral("circle_green");
+    if (types.conformsTo(fileUTI, UniformTypes::image))
+        return QStringLiteral("circle_blue");
+    if (types.conformsTo(fileUTI, QStringLiteral("Folder")))
+        return QStringLiteral("circle_turquoise");
+    return QStringLiteral("circle_yellow");
+}
+
+BRDuplicateTableViewCell::Texts BRDuplicateTableViewCell::textsFor(const GroupRecord &record,
+                                                                   const TypeConformance &types)
+{
+    return Texts{bulletImageName(record.fileUTI, types), record.fileName,
+                 QString::number(record.filePath.size()),
+                 ByteCountFormatter::binary(record.fileSize),
+                 ByteCountFormatter::binary(record.totalSize)};
+}
+
+QSize BRDuplicateTableViewCell::sizeHint(const QStyleOptionViewItem &,
+                                         const QModelIndex &index) const
+{
+    return index.data(Qt::SizeHintRole).toSize();
+}
+
+void BRDuplicateTableViewCell::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                                     const QModelIndex &index) const
+{
+    const auto kind = static_cast<DuplicateTableModel::RowKind>(
+        index.data(DuplicateTableModel::RowKindRole).toInt());
+    if (kind != DuplicateTableModel::RowKind::Group) {
+        BRNoSearchResultCell::paint(painter, option.rect, index.data(Qt::DisplayRole).toString());
+        return;
+    }
+    const auto *model = qobject_cast<const DuplicateTableModel *>(index.model());
+    const GroupRecord *record = model ? model->recordAt(index.row()) : nullptr;
+    if (!record)
+        return; // removed since the last reload; the next one drops the row
+    paintGroup(painter, option.rect, *record, option.state.testFlag(QStyle::State_MouseOver));
+}
+
+QPixmap BRDuplicateTableViewCell::bulletPixmap(const QString &name, int side, qreal ratio) const
+{
+    auto found = m_bullets.find(name);
+    if (found == m_bullets.end())
+        found = m_bullets.insert(
+            name, QIcon(QStringLiteral(":/images/") + name + QStringLiteral(".svg")));
+    QPixmap pixmap = found->pixmap(QSize(side, side), ratio);
+    return pixmap;
+}
+
+void BRDuplicateTableViewCell::paintGroup(QPainter *painter, const QRect &rect,
+                                          const GroupRecord &record, bool hovered) const
+{
+    const Texts texts = textsFor(record, m_types);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (hovered)
+        painter->fillRect(rect, BRColorHelper::color(57, 188, 25, 0.06));
+    painter->setPen(BRColorHelper::color(0, 0, 0, 0.08));
+    painter->drawLine(rect.left() + 20, rect.bottom(), rect.right() - 20, rect.bottom());
+
+    // The picture, framed; a soft square stands in until it is made.
+    const QRect thumbRect(rect.left() + 24, rect.top() + (rect.height() - thumbnailSide) / 2,
+                          thumbnailSide, thumbnailSide);
+    const QImage image = m_thumbnails.imageFor(record.thumbNail);
+    QPainterPath frame;
+    frame.addRoundedRect(thumbRect, 6, 6);
+    painter->fillPath(frame, BRColorHelper::color(240, 241, 243, 1.0));
+    if (!image.isNull()) {
+        const QSize fitted = image.size().scaled(thumbRect.size(), Qt::KeepAspectRatio);
+        QRect target(QPoint(0, 0), fitted);
+        target.moveCenter(thumbRect.center());
+        painter->setClipPath(frame);
+        painter->drawImage(target, image);
+        painter->setClipping(false);
+    }
+
+    // Right side: size of one copy and of them all, each under a small caption.
+    const int columnWidth = 96;
+    const QRect totalColumn(rect.right() - 24 - columnWidth, rect.top(), columnWidth,
+                            rect.height());
+    const QRect sizeColumn(totalColumn.left() - 12 - columnWidth, rect.top(), columnWidth,
+                           rect.height());
+    const auto drawColumn = [painter](const QRect &column, const QString &caption,
+                                      const QString &value) {
+        const int middle = column.center().y();
+        painter->setFont(fontOf(11));
+        painter->setPen(BRColorHelper::color(0, 0, 0, 0.45));
+        painter->drawText(QRect(column.left(), middle - 22, column.width(), 16),
+                          Qt::AlignRight | Qt::AlignVCenter, caption);
+        painter->setFont(fontOf(15, QFont::Medium));
+        painter->setPen(BRColorHelper::color(38, 44, 56, 1.0));
+        painter->drawText(QRect(column.left(), middle - 4, column.width(), 22),
+                          Qt::AlignRight | Qt::AlignVCenter, value);
+    };
+    drawColumn(sizeColumn, QStringLiteral("Each copy"), texts.fileSize);
+    drawColumn(totalColumn, QStringLiteral("All copies"), texts.totalSize);
+
+    // The kind bullet carries the number of copies.
+    const QRect bulletRect(sizeColumn.left() - 24 - bulletSide,
+                           rect.top() + (rect.height() - bulletSide) / 2, bulletSide, bulletSide);
+    const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+    painter->drawPixmap(bulletRect, bulletPixmap(texts.bulletImage, bulletSide, ratio));
+    painter->setFont(fontOf(15, QFont::Medium));
+    painter->setPen(Qt::white);
+    painter->drawText(bulletRect, Qt::AlignCenter, texts.fileCount);
+
+    // Name and kind between the picture and the bullet.
+    const int textLeft = thumbRect.right() + 20;
+    const int textWidth = qMax(0, bulletRect.left() - 20 - textLeft);
+    const int middle = rect.center().y();
+    painter->setFont(fontOf(16, QFont::Medium));
+    painter->setPen(BRColorHelper::color(38, 44, 56, 1.0));
+    const QString name =
+        painter->fontMetrics().elidedText(texts.fileName, Qt::ElideMiddle, textWidth);
+    painter->drawText(QRect(textLeft, middle - 24, textWidth, 24), Qt::AlignLeft | Qt::AlignVCenter,
+                      name);
+    painter->setFont(fontOf(12));
+    painter->setPen(BRColorHelper::color(0, 0, 0, 0.5));
+    const QString kind =
+        painter->fontMetrics().elidedText(record.fileType, Qt::ElideRight, textWidth);
+    painter->drawText(QRect(textLeft, middle + 2, textWidth, 20), Qt::AlignLeft | Qt::AlignVCenter,
+                      kind);
+    painter->restore();
+}

@@ -1,0 +1,92 @@
+#include "DuplicateTableModel.h"
+
+#include "BRDuplicateFilesViewController.h"
+#include "BRNoSearchResultCell.h"
+#include "BRNoSubTypeFoundCell.h"
+
+#include <QSize>
+
+DuplicateTableModel::DuplicateTableModel(const BRDuplicateFilesViewController &store,
+                                         QObject *parent)
+    : QAbstractListModel(parent), m_store(store)
+{}
+
+int DuplicateTableModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rowCount;
+}
+
+DuplicateTableModel::RowKind DuplicateTableModel::rowKind() const
+{
+    if (m_store.searchActive() && m_store.filteredData().isEmpty())
+        return RowKind::NoSearchResult;
+    if (m_store.subTypeActive() && m_store.keysOfSubType().isEmpty())
+        return RowKind::NoSubTypeFound;
+    return RowKind::Group;
+}
+
+QString DuplicateTableModel::keyAt(int row) const
+{
+    const QStringList &keys = m_store.checkSearchActiveAndGetData();
+    return (row >= 0 && row < keys.size()) ? keys.at(row) : QString();
+}
+
+const GroupRecord *DuplicateTableModel::recordAt(int row) const
+{
+    if (rowKind() != RowKind::Group)
+        return nullptr;
+    const QString key = keyAt(row);
+    return key.isNull() ? nullptr : m_store.dictOfDupeFiles().find(key);
+}
+
+QVariant DuplicateTableModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_rowCount)
+        return {};
+    const RowKind kind = rowKind();
+    switch (role) {
+    case RowKindRole:
+        return static_cast<int>(kind);
+    case KeyRole:
+        return kind == RowKind::Group ? keyAt(index.row()) : QString();
+    case Qt::SizeHintRole:
+        return QSize(0, static_cast<int>(m_store.heightOfRow(index.row())));
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        if (kind == RowKind::NoSearchResult)
+            return BRNoSearchResultCell::text();
+        if (kind == RowKind::NoSubTypeFound)
+            return BRNoSubTypeFoundCell::text(m_store.selectedSubType().value_or(QString()));
+        if (const GroupRecord *record = recordAt(index.row()))
+            return record->fileName;
+        return {};
+    default:
+        return {};
+    }
+}
+
+void DuplicateTableModel::reload(bool appendedOnly)
+{
+    const int rows = m_store.numberOfRowsInTableView();
+    if (appendedOnly && rows > m_rowCount && rowKind() == RowKind::Group) {
+        beginInsertRows(QModelIndex(), m_rowCount, rows - 1);
+        m_rowCount = rows;
+        endInsertRows();
+        return;
+    }
+    if (appendedOnly && rows == m_rowCount) {
+        rowsChanged(0, rows - 1);
+        return;
+    }
+    beginResetModel();
+    m_rowCount = rows;
+    endResetModel();
+}
+
+void DuplicateTableModel::rowsChanged(int first, int last)
+{
+    first = qMax(first, 0);
+    last = qMin(last, m_rowCount - 1);
+    if (first <= last)
+        Q_EMIT dataChanged(index(first), index(last));
+}
