@@ -13,6 +13,8 @@ public:
 
     int compare(const QString &a, const QString &b) const { return m_collator.compare(a, b); }
     bool operator()(const QString &a, const QString &b) const { return compare(a, b) < 0; }
+    // A key that compares as the names do, for sorting many names at once.
+    QCollatorSortKey sortKey(const QString &name) const { return m_collator.sortKey(name); }
 
 private:
     QCollator m_collator;

@@ -321,6 +321,7 @@ void BRDuplicateFilesViewController::applyReport(quint64 generation, const Group
             disableSubTypeAndSortData(*m_selectedSortType);
         if (m_sortAndCancelTabViewDelegate)
             m_sortAndCancelTabViewDelegate->selectTabAtIndex(0);
+        prepareNameKeys();
         showAlert(QStringLiteral("Duplicate files scan complete."),
                   QString::number(totalDuplicates) + QStringLiteral(" duplicate files found."));
         return;
@@ -364,6 +365,32 @@ void BRDuplicateFilesViewController::applyReport(quint64 generation, const Group
     }
     if (!m_searchActive && totalDuplicates % 10 == 0)
         updateFileCountAndSize(totalDuplicates);
+}
+
+GroupLookup BRDuplicateFilesViewController::records()
+{
+    if (!m_records.isBuiltFor(m_dictOfDupeFiles))
+        m_records.rebuild(m_dictOfDupeFiles);
+    return m_records.lookup();
+}
+
+void BRDuplicateFilesViewController::prepareNameKeys()
+{
+    // The first sort by name would spend most of its time making collation keys; they
+    // are made here, while the user reads the results, and kept.
+    const GroupMap groups = m_dictOfDupeFiles;
+    const quint64 generation = m_scanGeneration;
+    QtConcurrent::run([groups] {
+        QStringList names;
+        names.reserve(groups.size());
+        groups.forEach([&names](const QString &, const GroupRecord &record) {
+            names.append(record.fileName);
+        });
+        return NameSortKeys::madeFor(names);
+    }).then(this, [this, generation](const NameSortKeys &keys) {
+        if (generation == m_scanGeneration && keys.size() > m_nameKeys.size())
+            m_nameKeys = keys;
+    });
 }
 
 void BRDuplicateFilesViewController::reloadRowForKey(const QString &key)
@@ -514,6 +541,7 @@ void BRDuplicateFilesViewController::clearAll()
     m_duplicateFinder.reset();
     m_selectedSortType.reset();
     m_selectedUrl.reset();
+    m_nameKeys = NameSortKeys();
     m_selectedFolderImageView->clear();
     m_selecteFolderNameLabel->clear();
     m_selectedFolderPathLabel->clear();
@@ -529,6 +557,7 @@ void BRDuplicateFilesViewController::removeAllFromDataSource()
     m_filteredData.clear();
     m_dictOfDupeFiles = GroupMap();
     m_filteredDictData.clear();
+    m_records.clear();
 }
 
 // ---------------------------------------------------------------------------------------
@@ -539,7 +568,7 @@ void BRDuplicateFilesViewController::sortSubTypes(const QString &subType)
     m_index = 0;
     m_subTypeActive = true;
     m_selectedSubType = subType;
-    m_keysOfSubType = m_subTypes.keysOfSubType(subType, m_allData, m_dictOfDupeFiles);
+    m_keysOfSubType = m_subTypes.keysOfSubType(subType, m_allData, records());
     m_index = m_keysOfSubType.size();
     // The totals then count the subset: the list on screen is the subset, and its records
     // are those of the store.
@@ -590,7 +619,9 @@ void BRDuplicateFilesViewController::sortData(const QString &sortType, const Gro
     scrollToFirstRow();
     if (sortType == sortAll || sortType == u"Name" || sortType == u"Size" || sortType == u"Type") {
         m_selectedSortType = sortType;
-        m_allData = GroupOrdering::sortedKeys(sortType, m_keysOfAll, groups);
+        m_allData = groups.sharesRootWith(m_dictOfDupeFiles)
+                        ? GroupOrdering::sortedKeys(sortType, m_keysOfAll, records(), m_nameKeys)
+                        : GroupOrdering::sortedKeys(sortType, m_keysOfAll, groups);
         m_index = m_allData.size();
         rebuildAllDataIndex();
     }
@@ -635,12 +666,13 @@ void BRDuplicateFilesViewController::applyFilterWithSearchQuery(const QString &q
     // when the search is emptied.
     const QStringList source = m_subTypeActive ? m_keysOfSubType : m_allData;
     m_subTypeActive = false;
-    const QStringList hits = GroupOrdering::searchHits(query, source, m_dictOfDupeFiles);
+    const GroupLookup find = records();
+    const QStringList hits = GroupOrdering::searchHits(query, source, find);
     m_filteredData.reserve(m_filteredData.size() + hits.size());
     m_filteredDictData.reserve(m_filteredDictData.size() + hits.size());
     for (const QString &key : hits) {
         m_filteredData.insert(m_index, key);
-        m_filteredDictData.insert(key, *m_dictOfDupeFiles.find(key));
+        m_filteredDictData.insert(key, *find(key));
         ++m_index;
     }
     setTotalDuplicateFilesCountLabel(m_filteredDictData);
@@ -770,7 +802,10 @@ void BRDuplicateFilesViewController::updateDictionaryDataForKey(const QString &k
     const QString fileType = record.fileType;
     const QString fileName = record.fileName;
     const QString oldKey = record.oldKey;
+    const bool indexed = m_records.isBuiltFor(m_dictOfDupeFiles);
     m_dictOfDupeFiles.insert(key, std::move(record));
+    if (indexed)
+        m_records.replace(key, m_dictOfDupeFiles);
     m_totalDupesSize -= fileSize;
     // A running scan goes on from what the user left: a later copy joins the smaller group.
     if (m_duplicateFinder)
@@ -784,7 +819,10 @@ void BRDuplicateFilesViewController::removeValuesForKeyFromDataSource(const QStr
         m_filteredDictData.remove(key);
     if (m_duplicateFinder)
         m_duplicateFinder->finder().removeGroup(key);
+    const bool indexed = m_records.isBuiltFor(m_dictOfDupeFiles);
     m_dictOfDupeFiles.remove(key);
+    if (indexed)
+        m_records.remove(key, m_dictOfDupeFiles);
     m_keysOfAll.removeAll(key);
     m_keysOfSubType.removeAll(key);
 }
@@ -825,10 +863,17 @@ template <typename Groups> void BRDuplicateFilesViewController::countTotals(cons
 {
     m_totaldupes = 0;
     m_totalDupesSize = 0;
+    bool indexed = false;
+    if constexpr (std::is_same_v<Groups, GroupMap>) {
+        if (groups.sharesRootWith(m_dictOfDupeFiles)) {
+            records();
+            indexed = true;
+        }
+    }
     for (const QString &key : checkSearchActiveAndGetData()) {
         const GroupRecord *record = nullptr;
         if constexpr (std::is_same_v<Groups, GroupMap>) {
-            record = groups.find(key);
+            record = indexed ? m_records.find(key) : groups.find(key);
         } else {
             const auto found = groups.constFind(key);
             record = found == groups.cend() ? nullptr : &found.value();

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "BRDuplicateFilesViewDelegate.h"
+#include "GroupIndex.h"
 #include "GroupMap.h"
+#include "NameSortKeys.h"
 #include "SubTypeFilter.h"
 #include "WindowDelegate.h"
 
@@ -166,6 +168,9 @@ private:
     // The duplicate side's screen at `index`: 0 the start screen, 2 the status screen.
     QWidget *siblingScreen(int index) const;
     template <typename Groups> void countTotals(const Groups &groups);
+    // The flat index of the store's groups, rebuilt when the store was replaced since.
+    GroupLookup records();
+    void prepareNameKeys();
 
     AlertPresenter &m_alerts;
     Workspace &m_workspace;
@@ -215,6 +220,8 @@ private:
     BRDuplicateSortAndCancelDelegate *m_sortAndCancelTabViewDelegate = nullptr;
 
     SubTypeFilter m_subTypes;
+    GroupIndex m_records;
+    NameSortKeys m_nameKeys;
     std::atomic<quint64> m_scanGeneration{0}; // reports of older scans are dropped
     int m_reloadCount = 0;
 };

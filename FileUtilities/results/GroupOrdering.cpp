@@ -1,6 +1,6 @@
 #include "GroupOrdering.h"
 
-#include "NameCollator.h"
+#include "NameSortKeys.h"
 
 #include <algorithm>
 #include <vector>
@@ -8,24 +8,36 @@
 QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList &keysOfAll,
                                       const GroupMap &groups)
 {
+    NameSortKeys names;
+    return sortedKeys(
+        sortType, keysOfAll, [&groups](const QString &key) { return groups.find(key); }, names);
+}
+
+QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList &keysOfAll,
+                                      const GroupLookup &find, NameSortKeys &names)
+{
     struct Entry
     {
-        QString key;
+        const QString *key;
         const GroupRecord *group;
+        const QCollatorSortKey *nameKey = nullptr;
     };
     std::vector<Entry> entries;
     entries.reserve(static_cast<size_t>(keysOfAll.size()));
     for (const QString &key : keysOfAll) {
-        if (const GroupRecord *group = groups.find(key))
-            entries.push_back({key, group});
+        if (const GroupRecord *group = find(key))
+            entries.push_back({&key, group});
     }
 
     if (sortType == u"Name") {
-        const NameCollator collator;
-        std::stable_sort(entries.begin(), entries.end(),
-                         [&collator](const Entry &a, const Entry &b) {
-                             return collator(a.group->fileName, b.group->fileName);
-                         });
+        // Keys first: the hash they live in does not move once all are made.
+        for (const Entry &entry : entries)
+            names.keyFor(entry.group->fileName);
+        for (Entry &entry : entries)
+            entry.nameKey = &names.keyFor(entry.group->fileName);
+        std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
+            return a.nameKey->compare(*b.nameKey) < 0;
+        });
     } else if (sortType == u"Size") {
         std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
             return a.group->totalSize > b.group->totalSize;
@@ -39,18 +51,30 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
     QStringList keys;
     keys.reserve(static_cast<qsizetype>(entries.size()));
     for (const Entry &entry : entries)
-        keys.append(entry.key);
+        keys.append(*entry.key);
     return keys;
 }
 
 QStringList GroupOrdering::searchHits(const QString &query, const QStringList &keys,
                                       const GroupMap &groups)
 {
+    return searchHits(query, keys, [&groups](const QString &key) { return groups.find(key); });
+}
+
+QStringList GroupOrdering::searchHits(const QString &query, const QStringList &keys,
+                                      const GroupLookup &find)
+{
     const QString lowered = query.toLower();
     QStringList hits;
     for (const QString &key : keys) {
-        const GroupRecord *group = groups.find(key);
-        if (group && group->fileName.toLower().startsWith(lowered))
+        const GroupRecord *group = find(key);
+        if (!group)
+            continue;
+        const QString &name = group->fileName;
+        // Most names fail on their first letters; lower-case only what can match.
+        const qsizetype length = qMin(name.size(), lowered.size() + 8);
+        if (name.left(length).toLower().startsWith(lowered) ||
+            (length < name.size() && name.toLower().startsWith(lowered)))
             hits.append(key);
     }
     return hits;

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "GroupLookup.h"
 #include "GroupMap.h"
 
 #include <QString>
 #include <QStringList>
+
+class NameSortKeys;
 
 // The order and the search of the results list, apart from any screen.
 class GroupOrdering
@@ -15,9 +18,14 @@ public:
     // Keys whose group is gone are left out; an unknown sort type gives arrival order.
     static QStringList sortedKeys(const QString &sortType, const QStringList &keysOfAll,
                                   const GroupMap &groups);
+    // The same through a lookup; `names` keeps the collation keys of names between sorts.
+    static QStringList sortedKeys(const QString &sortType, const QStringList &keysOfAll,
+                                  const GroupLookup &find, NameSortKeys &names);
 
     // The keys, in their order, whose group name begins with the query, case aside. Only
     // the start of the name counts, and only the name, not the paths.
     static QStringList searchHits(const QString &query, const QStringList &keys,
                                   const GroupMap &groups);
+    static QStringList searchHits(const QString &query, const QStringList &keys,
+                                  const GroupLookup &find);
 };

@@ -2,6 +2,8 @@
 
 #include "UniformTypes.h"
 
+#include <QHash>
+
 namespace {
 const QString folderIdentifier = QStringLiteral("Folder");
 }
@@ -65,10 +67,24 @@ bool SubTypeFilter::belongs(const QString &subType, const QString &fileUTI) cons
 QStringList SubTypeFilter::keysOfSubType(const QString &subType, const QStringList &allData,
                                          const GroupMap &groups) const
 {
+    return keysOfSubType(subType, allData,
+                         [&groups](const QString &key) { return groups.find(key); });
+}
+
+QStringList SubTypeFilter::keysOfSubType(const QString &subType, const QStringList &allData,
+                                         const GroupLookup &find) const
+{
+    // A list holds few kinds and many groups: each kind is decided once per run.
+    QHash<QString, bool> decided;
     QStringList keys;
     for (const QString &key : allData) {
-        const GroupRecord *group = groups.find(key);
-        if (group && belongs(subType, group->fileUTI))
+        const GroupRecord *group = find(key);
+        if (!group)
+            continue;
+        auto found = decided.constFind(group->fileUTI);
+        if (found == decided.cend())
+            found = decided.insert(group->fileUTI, belongs(subType, group->fileUTI));
+        if (*found)
             keys.append(key);
     }
     return keys;

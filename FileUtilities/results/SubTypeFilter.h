@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GroupLookup.h"
 #include "GroupMap.h"
 #include "TypeConformance.h"
 
@@ -27,6 +28,8 @@ public:
     // whose group is gone are passed over.
     QStringList keysOfSubType(const QString &subType, const QStringList &allData,
                               const GroupMap &groups) const;
+    QStringList keysOfSubType(const QString &subType, const QStringList &allData,
+                              const GroupLookup &find) const;
 
 private:
     TypeConformance m_types;

@@ -26,6 +26,8 @@ public:
     GroupMap() = default;
 
     qsizetype size() const { return m_size; }
+    // True when both maps are the same version: one is an unchanged copy of the other.
+    bool sharesRootWith(const GroupMap &other) const { return m_root == other.m_root; }
     bool isEmpty() const { return m_size == 0; }
     bool contains(const QString &key) const { return find(key) != nullptr; }
 

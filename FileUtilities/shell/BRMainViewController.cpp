@@ -2,7 +2,7 @@
 
 #include "AlertPresenter.h"
 #include "BRColorHelper.h"
-#include "BRDuplicateFilesMainViewDelegate.h"
+#include "BRDuplicateFilesMainViewController.h"
 #include "BRMainViewTabButton.h"
 #include "BRTabViewController.h"
 
@@ -80,6 +80,12 @@ BRMainViewController::BRMainViewController(AlertPresenter &alerts, QWidget *dupl
 
     setButtonImage(m_renameImageButton, QStringLiteral("rename_icon"));
     showTool(true);
+
+    // The duplicate side and this view speak to each other through their delegates.
+    if (auto *side = qobject_cast<BRDuplicateFilesMainViewController *>(duplicatesSide)) {
+        setDuplicateMainViewDelegate(side);
+        side->setMainViewDelegate([this](bool scanRuns) { updateTabStatus(scanRuns); });
+    }
 }
 
 QColor BRMainViewController::selectedTitleColor()

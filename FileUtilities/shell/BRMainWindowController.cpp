@@ -27,7 +27,7 @@ BRMainWindowController::BRMainWindowController(Services services, QWidget *paren
     auto *menu = new MenuActionsClass(m_services.appDelegate, m_services.workspace, this);
     menuBar()->addMenu(menu);
     connect(menu, &MenuActionsClass::aboutAction, this, &BRMainWindowController::showAboutWindow);
-    connect(menu, &MenuActionsClass::quitAction, this, &QWidget::close);
+    connect(menu, &MenuActionsClass::quitAction, this, &BRMainWindowController::quitApplication);
 }
 
 void BRMainWindowController::showAboutWindow()
@@ -36,13 +36,27 @@ void BRMainWindowController::showAboutWindow()
     about.exec();
 }
 
+void BRMainWindowController::quitApplication()
+{
+    if (m_services.appDelegate.applicationShouldTerminate() !=
+        AppDelegate::TerminateReply::TerminateNow)
+        return;
+    m_quitting = true;
+    close();
+}
+
 void BRMainWindowController::closeEvent(QCloseEvent *event)
 {
-    if (m_services.appDelegate.applicationShouldTerminate() ==
-        AppDelegate::TerminateReply::TerminateNow)
-        event->accept();
-    else
-        event->ignore();
+    bool closes = m_quitting;
+    if (!closes) {
+        if (WindowDelegate *delegate = windowDelegate())
+            closes = delegate->windowShouldClose();
+        else
+            closes = m_services.appDelegate.applicationShouldTerminate() ==
+                     AppDelegate::TerminateReply::TerminateNow;
+    }
+    m_quitting = false;
+    event->setAccepted(closes);
 }
 
 bool BRMainWindowController::didFinishLaunchingOnce()

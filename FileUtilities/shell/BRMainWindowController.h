@@ -42,13 +42,17 @@ public:
     void loadHomeViewController();
     void loadMainViewController();
     void showAboutWindow();
+    // The menu's Quit: asks what quitting would lose, then ends the program.
+    void quitApplication();
 
 protected:
-    // Closing the window quits, and asks first what quitting asks.
+    // Closing the window quits. The screen shown last decides whether it may; before any
+    // tool was shown, it asks what quitting asks.
     void closeEvent(QCloseEvent *event) override;
 
 private:
     void setContent(QWidget *content);
 
     Services m_services;
+    bool m_quitting = false;
 };

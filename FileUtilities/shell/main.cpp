@@ -1,4 +1,5 @@
 #include "AppDelegate.h"
+#include "BRDuplicateFilesMainViewController.h"
 #include "BRMainWindowController.h"
 #include "BRToolPlaceholderView.h"
 #include "DesktopWorkspace.h"
@@ -29,20 +30,17 @@ int main(int argc, char *argv[])
     QApplication::setStyle(new ToolTipDelayStyle(
         settings.value(QStringLiteral("NSInitialToolTipDelay"), 700).toInt()));
 
-    BRMainWindowController window(
-        {appDelegate, alerts, openPanel, workspace, settings,
-         [] {
-             return new BRToolPlaceholderView(
-                 QStringLiteral("Duplicates"),
-                 QStringLiteral("Finding duplicate files and folders comes to "
-                                "this window soon.\nUntil then, quillmere-scan "
-                                "finds them from the command line."));
-         },
-         [] {
-             return new BRToolPlaceholderView(QStringLiteral("Rename"),
-                                              QStringLiteral("Renaming files in batches comes to "
-                                                             "this window soon."));
-         }});
+    BRMainWindowController window({appDelegate, alerts, openPanel, workspace, settings,
+                                   [&] {
+                                       return new BRDuplicateFilesMainViewController(
+                                           {alerts, openPanel, workspace, &appDelegate});
+                                   },
+                                   [] {
+                                       return new BRToolPlaceholderView(
+                                           QStringLiteral("Rename"),
+                                           QStringLiteral("Renaming files in batches comes to "
+                                                          "this window soon."));
+                                   }});
     alerts.setWindow(&window);
     openPanel.setWindow(&window);
     window.windowDidLoad();

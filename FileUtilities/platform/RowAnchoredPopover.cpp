@@ -1,0 +1,202 @@
+#include "RowAnchoredPopover.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int cornerRadius = 10;
+constexpr int arrowHalfWidth = 9;
+constexpr int border = 1;
+
+bool horizontal(Qt::Edge edge)
+{
+    return edge == Qt::LeftEdge || edge == Qt::RightEdge;
+}
+
+Qt::Edge opposite(Qt::Edge edge)
+{
+    switch (edge) {
+    case Qt::LeftEdge:
+        return Qt::RightEdge;
+    case Qt::RightEdge:
+        return Qt::LeftEdge;
+    case Qt::TopEdge:
+        return Qt::BottomEdge;
+    case Qt::BottomEdge:
+        return Qt::TopEdge;
+    }
+    return Qt::RightEdge;
+}
+
+// The popover's frame against `anchor` on `edge`, centred on the anchor across that edge.
+QRect placed(const QRect &anchor, QSize size, Qt::Edge edge)
+{
+    const int top = anchor.top() + (anchor.height() - size.height()) / 2;
+    const int left = anchor.left() + (anchor.width() - size.width()) / 2;
+    switch (edge) {
+    case Qt::LeftEdge:
+        return {QPoint(anchor.left() - size.width(), top), size};
+    case Qt::RightEdge:
+        return {QPoint(anchor.right() + 1, top), size};
+    case Qt::TopEdge:
+        return {QPoint(left, anchor.top() - size.height()), size};
+    case Qt::BottomEdge:
+        return {QPoint(left, anchor.bottom() + 1), size};
+    }
+    return {};
+}
+
+// How far `frame` reaches past `screen` along the axis that `edge` moves it on.
+int overflow(const QRect &frame, const QRect &screen, Qt::Edge edge)
+{
+    if (horizontal(edge))
+        return qMax(0, screen.left() - frame.left()) + qMax(0, frame.right() - screen.right());
+    return qMax(0, screen.top() - frame.top()) + qMax(0, frame.bottom() - screen.bottom());
+}
+
+int clampedStart(int start, int length, int screenStart, int screenLength)
+{
+    if (length >= screenLength)
+        return screenStart;
+    return qBound(screenStart, start, screenStart + screenLength - length);
+}
+
+} // namespace
+
+RowAnchoredPopover::RowAnchoredPopover(QWidget *content, QWidget *parent)
+    : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint), m_content(content)
+{
+    setObjectName(QStringLiteral("RowAnchoredPopover"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    // The rounded corners and the notch show what lies behind.
+    setAttribute(Qt::WA_TranslucentBackground);
+    auto *layout = new QVBoxLayout(this);
+    layout->setSpacing(0);
+    layout->addWidget(m_content);
+    setEdge(Qt::RightEdge);
+}
+
+void RowAnchoredPopover::setEdge(Qt::Edge edge)
+{
+    m_edge = edge;
+    // The notch sits on the popover's side that faces the row.
+    const int left = border + (edge == Qt::RightEdge ? arrowDepth : 0);
+    const int right = border + (edge == Qt::LeftEdge ? arrowDepth : 0);
+    const int top = border + (edge == Qt::BottomEdge ? arrowDepth : 0);
+    const int bottom = border + (edge == Qt::TopEdge ? arrowDepth : 0);
+    layout()->setContentsMargins(left, top, right, bottom);
+}
+
+void RowAnchoredPopover::showRelativeToRect(const QRect &rect, QWidget *view,
+                                            Qt::Edge preferredEdge)
+{
+    QRect local = rect;
+    if (view) {
+        // A row wider than its list is anchored by the part that can be seen.
+        const QRect visible = rect.intersected(view->rect());
+        if (!visible.isEmpty())
+            local = visible;
+    }
+    const QRect anchor = view ? QRect(view->mapToGlobal(local.topLeft()), local.size()) : local;
+    QScreen *screen = QGuiApplication::screenAt(anchor.center());
+    if (!screen)
+        screen = view ? view->screen() : QGuiApplication::primaryScreen();
+    const QRect available = screen ? screen->availableGeometry() : QRect();
+
+    setEdge(preferredEdge);
+    adjustSize();
+    const QSize size = this->size();
+    Qt::Edge edge = preferredEdge;
+    if (available.isValid()) {
+        const int wanted = overflow(placed(anchor, size, edge), available, edge);
+        const int other = overflow(placed(anchor, size, opposite(edge)), available, edge);
+        if (wanted > 0 && other < wanted)
+            edge = opposite(edge);
+    }
+    setEdge(edge);
+
+    QRect frame = placed(anchor, size, edge);
+    if (available.isValid()) {
+        frame.moveLeft(
+            clampedStart(frame.left(), frame.width(), available.left(), available.width()));
+        frame.moveTop(
+            clampedStart(frame.top(), frame.height(), available.top(), available.height()));
+    }
+    // The notch points at the middle of the row, as far as the rounded corners allow.
+    const int along =
+        horizontal(edge) ? anchor.center().y() - frame.top() : anchor.center().x() - frame.left();
+    const int length = horizontal(edge) ? frame.height() : frame.width();
+    const int margin = cornerRadius + arrowHalfWidth;
+    m_arrowCenter = length > 2 * margin ? qBound(margin, along, length - margin) : length / 2;
+
+    setGeometry(frame);
+    show();
+    update();
+}
+
+QPainterPath RowAnchoredPopover::outline() const
+{
+    const QRectF all = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    QRectF body = all;
+    QPolygonF notch;
+    const qreal c = m_arrowCenter;
+    switch (m_edge) {
+    case Qt::RightEdge: // the notch on the popover's left side
+        body.setLeft(all.left() + arrowDepth);
+        notch << QPointF(body.left(), c - arrowHalfWidth) << QPointF(all.left(), c)
+              << QPointF(body.left(), c + arrowHalfWidth);
+        break;
+    case Qt::LeftEdge:
+        body.setRight(all.right() - arrowDepth);
+        notch << QPointF(body.right(), c - arrowHalfWidth) << QPointF(all.right(), c)
+              << QPointF(body.right(), c + arrowHalfWidth);
+        break;
+    case Qt::BottomEdge:
+        body.setTop(all.top() + arrowDepth);
+        notch << QPointF(c - arrowHalfWidth, body.top()) << QPointF(c, all.top())
+              << QPointF(c + arrowHalfWidth, body.top());
+        break;
+    case Qt::TopEdge:
+        body.setBottom(all.bottom() - arrowDepth);
+        notch << QPointF(c - arrowHalfWidth, body.bottom()) << QPointF(c, all.bottom())
+              << QPointF(c + arrowHalfWidth, body.bottom());
+        break;
+    }
+    QPainterPath shape;
+    shape.addRoundedRect(body, cornerRadius, cornerRadius);
+    QPainterPath arrow;
+    arrow.addPolygon(notch);
+    arrow.closeSubpath();
+    return shape.united(arrow);
+}
+
+void RowAnchoredPopover::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0, 0, 0, 46), border));
+    painter.setBrush(QColor(251, 251, 252));
+    painter.drawPath(outline());
+}
+
+void RowAnchoredPopover::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        event->accept();
+        close();
+        return;
+    }
+    QFrame::keyPressEvent(event);
+}
+
+void RowAnchoredPopover::hideEvent(QHideEvent *event)
+{
+    QFrame::hideEvent(event);
+    // Every way out passes here: Escape, a click outside, the owner's close().
+    Q_EMIT closed();
+}

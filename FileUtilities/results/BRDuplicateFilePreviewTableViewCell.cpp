@@ -1,0 +1,210 @@
+#include "BRDuplicateFilePreviewTableViewCell.h"
+
+#include "BRColorHelper.h"
+#include "BRDuplicateFilePreviewDelegate.h"
+
+#include <QCursor>
+#include <QEnterEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QStyle>
+#include <QTextCursor>
+#include <QTextEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QtMath>
+
+namespace {
+
+QLabel *makeLabel(const QString &objectName, int pixelSize, const QColor &color, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(objectName);
+    QFont font(QStringLiteral("Helvetica"));
+    font.setPixelSize(pixelSize);
+    label->setFont(font);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, color);
+    label->setPalette(palette);
+    // Clicks on the text belong to the row.
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    return label;
+}
+
+QTextEdit *makePathLabel(QWidget *parent)
+{
+    auto *label = new QTextEdit(parent);
+    label->setObjectName(QStringLiteral("pathLabel"));
+    label->setReadOnly(true);
+    label->setTextInteractionFlags(Qt::NoTextInteraction);
+    label->setFocusPolicy(Qt::NoFocus);
+    label->setFrameShape(QFrame::NoFrame);
+    label->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    label->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    label->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    label->document()->setDocumentMargin(0);
+    label->setFont(BRDuplicateFilePreviewTableViewCell::pathFont());
+    label->document()->setDefaultFont(BRDuplicateFilePreviewTableViewCell::pathFont());
+    label->viewport()->setAutoFillBackground(false);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    label->setFixedWidth(BRDuplicateFilePreviewTableViewCell::pathWidth);
+    return label;
+}
+
+void setTextColor(QWidget *widget, QPalette::ColorRole role, const QColor &color)
+{
+    QPalette palette = widget->palette();
+    palette.setColor(role, color);
+    widget->setPalette(palette);
+}
+
+} // namespace
+
+BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget *parent)
+    : QWidget(parent),
+      m_serialLabel(makeLabel(QStringLiteral("serialLabel"), 13, pathColor(), this)),
+      m_pathLabel(makePathLabel(this)), m_deleteButton(new QToolButton(this)),
+      m_byteSizeLabel(makeLabel(QStringLiteral("byteSizeLabel"), 11, QColor(128, 128, 128), this)),
+      m_modifiedDateLabel(
+          makeLabel(QStringLiteral("modifiedDateLabel"), 11, QColor(128, 128, 128), this))
+{
+    setObjectName(QStringLiteral("dupeFilePreviewCell"));
+    m_serialLabel->setFixedWidth(24);
+    m_serialLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
+
+    m_deleteButton->setObjectName(QStringLiteral("deleteButton"));
+    m_deleteButton->setAccessibleName(QStringLiteral("Move to Trash"));
+    m_deleteButton->setToolTip(QStringLiteral("Move to Trash"));
+    m_deleteButton->setAutoRaise(true);
+    m_deleteButton->setCursor(Qt::PointingHandCursor);
+    m_deleteButton->setIcon(style()->standardIcon(QStyle::SP_TrashIcon));
+    m_deleteButton->setIconSize(QSize(16, 16));
+    m_deleteButton->setFixedSize(26, 26);
+    connect(m_deleteButton, &QToolButton::clicked, this,
+            &BRDuplicateFilePreviewTableViewCell::deleteAction);
+
+    auto *details = new QHBoxLayout;
+    details->setSpacing(14);
+    details->addWidget(m_byteSizeLabel);
+    details->addWidget(m_modifiedDateLabel);
+    details->addStretch();
+    auto *text = new QVBoxLayout;
+    text->setSpacing(8);
+    text->addWidget(m_pathLabel);
+    text->addLayout(details);
+    text->addStretch();
+    auto *layout = new QHBoxLayout(this);
+    // Above and below the path: 12 + 8 + the details line + the rest make the row's fixed
+    // extra height.
+    layout->setContentsMargins(4, 12, 6, 12);
+    layout->setSpacing(8);
+    layout->addWidget(m_serialLabel, 0, Qt::AlignTop);
+    layout->addLayout(text, 1);
+    layout->addWidget(m_deleteButton, 0, Qt::AlignTop);
+    applyColors();
+}
+
+QFont BRDuplicateFilePreviewTableViewCell::pathFont()
+{
+    QFont font(QStringLiteral("Helvetica"));
+    font.setPixelSize(13);
+    return font;
+}
+
+QColor BRDuplicateFilePreviewTableViewCell::pathColor()
+{
+    return BRColorHelper::color(99, 99, 99, 0.85);
+}
+
+QColor BRDuplicateFilePreviewTableViewCell::hoverPathColor()
+{
+    return BRColorHelper::color(0, 0, 0, 1.0);
+}
+
+QColor BRDuplicateFilePreviewTableViewCell::separatorColor()
+{
+    return BRColorHelper::color(191, 191, 191, 1.0);
+}
+
+QColor BRDuplicateFilePreviewTableViewCell::deletingColor()
+{
+    return BRColorHelper::color(193, 193, 193, 1.0);
+}
+
+void BRDuplicateFilePreviewTableViewCell::setPathText(const QString &display)
+{
+    QTextDocument *document = m_pathLabel->document();
+    document->clear();
+    QTextCursor cursor(document);
+    // Only the separators carry a colour of their own; the rest follows the palette, so
+    // hover and deletion recolour it.
+    QTextCharFormat plain;
+    QTextCharFormat separator;
+    separator.setForeground(separatorColor());
+    qsizetype from = 0;
+    for (qsizetype at = display.indexOf(QLatin1Char('>')); at >= 0;
+         at = display.indexOf(QLatin1Char('>'), from)) {
+        cursor.insertText(display.mid(from, at - from), plain);
+        cursor.insertText(QStringLiteral(">"), separator);
+        from = at + 1;
+    }
+    cursor.insertText(display.mid(from), plain);
+    document->setTextWidth(pathWidth);
+    m_pathLabel->setFixedHeight(qCeil(document->size().height()));
+}
+
+QString BRDuplicateFilePreviewTableViewCell::pathText() const
+{
+    return m_pathLabel->toPlainText();
+}
+
+void BRDuplicateFilePreviewTableViewCell::deleteAction()
+{
+    if (!m_delegate)
+        return;
+    // The row greys at once; it leaves the list only when the file has gone.
+    m_deleting = true;
+    applyColors();
+    m_deleteButton->hide();
+    m_delegate->deletePath(m_deleteButton);
+}
+
+void BRDuplicateFilePreviewTableViewCell::setHovered(bool hovered)
+{
+    m_hovered = hovered;
+    applyColors();
+}
+
+void BRDuplicateFilePreviewTableViewCell::applyColors()
+{
+    const QColor path = m_deleting ? deletingColor() : (m_hovered ? hoverPathColor() : pathColor());
+    setTextColor(m_pathLabel, QPalette::Text, path);
+    setTextColor(m_serialLabel, QPalette::WindowText, m_deleting ? deletingColor() : pathColor());
+}
+
+void BRDuplicateFilePreviewTableViewCell::enterEvent(QEnterEvent *event)
+{
+    QWidget::enterEvent(event);
+    setHovered(true);
+}
+
+void BRDuplicateFilePreviewTableViewCell::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    setHovered(false);
+}
+
+void BRDuplicateFilePreviewTableViewCell::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    // A row that appears under a resting pointer gets no enter event of its own.
+    setHovered(rect().contains(mapFromGlobal(QCursor::pos())));
+}
+
+void BRDuplicateFilePreviewTableViewCell::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setPen(QColor(0, 0, 0, 20));
+    painter.drawLine(QPoint(m_pathLabel->x(), height() - 1), QPoint(width() - 1, height() - 1));
+}

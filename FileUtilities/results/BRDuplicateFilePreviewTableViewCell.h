@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QWidget>
+
+class BRDuplicateFilePreviewDelegate;
+class QLabel;
+class QTextEdit;
+class QToolButton;
+
+// One copy in the detail popover's list: its number, its path, its size and date, and the
+// button that moves it to the Trash. The path is wrapped by the same text engine that
+// measures the row, so a long path never spills out of its row.
+class BRDuplicateFilePreviewTableViewCell : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // The width in which the path wraps.
+    static constexpr int pathWidth = 231;
+    // The row's height beyond that of its path.
+    static constexpr int fixedHeight = 52;
+    static constexpr int preferredWidth = 312;
+
+    explicit BRDuplicateFilePreviewTableViewCell(QWidget *parent = nullptr);
+
+    QLabel *serialLabel() const { return m_serialLabel; }
+    // Read-only, and wraps long names at any character where no word boundary is near.
+    QTextEdit *pathLabel() const { return m_pathLabel; }
+    QToolButton *deleteButton() const { return m_deleteButton; }
+    QLabel *byteSizeLabel() const { return m_byteSizeLabel; }
+    QLabel *modifiedDateLabel() const { return m_modifiedDateLabel; }
+
+    void setDelegate(BRDuplicateFilePreviewDelegate *delegate) { m_delegate = delegate; }
+    BRDuplicateFilePreviewDelegate *delegate() const { return m_delegate; }
+
+    // Writes the path, its ">" separators in a lighter tone.
+    void setPathText(const QString &display);
+    QString pathText() const;
+
+    // The delete button's action.
+    void deleteAction();
+
+    static QFont pathFont();
+    static QColor pathColor();
+    static QColor hoverPathColor();
+    static QColor separatorColor();
+    static QColor deletingColor();
+
+protected:
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void setHovered(bool hovered);
+    void applyColors();
+
+    QLabel *m_serialLabel;
+    QTextEdit *m_pathLabel;
+    QToolButton *m_deleteButton;
+    QLabel *m_byteSizeLabel;
+    QLabel *m_modifiedDateLabel;
+    BRDuplicateFilePreviewDelegate *m_delegate = nullptr;
+    bool m_hovered = false;
+    // Once its copy is on the way to the Trash the row stays grey, hovered or not, until
+    // the list is rebuilt.
+    bool m_deleting = false;
+};

@@ -1,0 +1,230 @@
+#include "BRDuplicateFilePreviewViewController.h"
+
+#include "BRColorHelper.h"
+#include "BRDuplicateFilePreviewTableViewCell.h"
+#include "BRDuplicateFilesViewDelegate.h"
+#include "BRDuplicatePopOverTableView.h"
+#include "BRQuickLookItem.h"
+#include "ByteCountFormatter.h"
+#include "FilePreviewView.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QTextDocument>
+#include <QTextOption>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QtMath>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int margin = 16;
+
+// The attributes of the entry itself, a link not followed. A failure is only told on the
+// standard output: the row shows that it has no size instead.
+std::optional<struct stat> entryStatus(const QString &path)
+{
+    struct stat status = {};
+    if (::lstat(QFile::encodeName(path).constData(), &status) != 0) {
+        const int error = errno;
+        std::printf("Error: %s: %s\n", qUtf8Printable(path), std::strerror(error));
+        std::fflush(stdout);
+        return std::nullopt;
+    }
+    return status;
+}
+
+} // namespace
+
+BRDuplicateFilePreviewViewController::BRDuplicateFilePreviewViewController(QWidget *parent)
+    : QWidget(parent), m_previewView(new QWidget(this)),
+      m_dupePreviewTableView(new BRDuplicatePopOverTableView(this)),
+      m_fileNameLabel(new QLabel(this)), m_prevView(new FilePreviewView(m_previewView))
+{
+    setObjectName(QStringLiteral("BRDuplicateFilePreviewViewController"));
+    m_previewView->setObjectName(QStringLiteral("previewView"));
+    m_previewView->setFixedSize(FilePreviewView::side, FilePreviewView::side);
+    m_prevView->setObjectName(QStringLiteral("prevView"));
+    m_prevView->move(0, 0);
+    // Shown once there is something to preview.
+    m_prevView->hide();
+    m_dupePreviewTableView->setPreviewDelegate(this);
+    m_dupePreviewTableView->setFixedHeight(FilePreviewView::side);
+
+    m_fileNameLabel->setObjectName(QStringLiteral("fileNameLabel"));
+    QFont nameFont(QStringLiteral("Helvetica"));
+    nameFont.setPixelSize(15);
+    nameFont.setBold(true);
+    m_fileNameLabel->setFont(nameFont);
+    QPalette namePalette = m_fileNameLabel->palette();
+    namePalette.setColor(QPalette::WindowText, BRColorHelper::color(45, 45, 45, 1.0));
+    m_fileNameLabel->setPalette(namePalette);
+    m_fileNameLabel->setTextFormat(Qt::PlainText);
+    m_fileNameLabel->setFixedWidth(FilePreviewView::side + margin +
+                                   m_dupePreviewTableView->width());
+
+    auto *body = new QHBoxLayout;
+    body->setSpacing(margin);
+    body->addWidget(m_previewView, 0, Qt::AlignTop);
+    body->addWidget(m_dupePreviewTableView, 0, Qt::AlignTop);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, 14, margin, margin);
+    layout->setSpacing(12);
+    layout->addWidget(m_fileNameLabel);
+    layout->addLayout(body);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void BRDuplicateFilePreviewViewController::showPreview(const std::optional<QUrl> &url)
+{
+    if (!url || !m_prevView)
+        return;
+    const BRQuickLookItem item{url, url->fileName()};
+    m_prevView->setPreviewItem(*item.previewItemURL);
+    m_prevView->setToolTip(item.previewItemTitle.value_or(QString()));
+    m_prevView->show();
+}
+
+void BRDuplicateFilePreviewViewController::setFileNameAndReloadData(const QString &fileName)
+{
+    // A long name is shortened in its middle, where its ending still tells its type.
+    m_fileNameLabel->setText(m_fileNameLabel->fontMetrics().elidedText(fileName, Qt::ElideMiddle,
+                                                                       m_fileNameLabel->width()));
+    m_fileNameLabel->setToolTip(fileName);
+    reloadData();
+}
+
+void BRDuplicateFilePreviewViewController::deletePath(QObject *sender)
+{
+    const int row = m_dupePreviewTableView->rowForView(qobject_cast<QWidget *>(sender));
+    if (row < 0)
+        return;
+    if (m_delegate && m_key)
+        m_delegate->updateAfterDelete(row, *m_key);
+}
+
+void BRDuplicateFilePreviewViewController::openURL(int row)
+{
+    if (row >= 0 && m_delegate && m_key)
+        m_delegate->openURLData(row, *m_key);
+}
+
+void BRDuplicateFilePreviewViewController::removeDataAtIndex(int row)
+{
+    if (row < 0 || row >= m_filePaths.size())
+        return;
+    const QString path = m_filePaths.at(row);
+    m_filePaths.removeAll(path);
+    reloadData();
+}
+
+std::optional<QString>
+BRDuplicateFilePreviewViewController::getModifiedDateFromPath(const QString &path)
+{
+    const std::optional<struct stat> status = entryStatus(path);
+    if (!status)
+        return std::nullopt;
+    const QDateTime modified = QDateTime::fromSecsSinceEpoch(status->st_mtim.tv_sec);
+    // English month names whatever the user's language, as the rest of the screen reads.
+    return QLocale(QLocale::English, QLocale::UnitedStates)
+        .toString(modified, QStringLiteral("dd MMM yyyy"));
+}
+
+std::optional<QString>
+BRDuplicateFilePreviewViewController::getByteSizeFromPath(const QString &path)
+{
+    const std::optional<struct stat> status = entryStatus(path);
+    if (!status)
+        return std::nullopt;
+    return getSizeInBytes(static_cast<qint64>(status->st_size));
+}
+
+QString BRDuplicateFilePreviewViewController::getSizeInBytes(qint64 bytes)
+{
+    return ByteCountFormatter::wholeBytes(bytes);
+}
+
+void BRDuplicateFilePreviewViewController::insertSymbol(int row)
+{
+    if (row < 0 || row >= m_filePaths.size())
+        return;
+    QString display = m_filePaths.at(row).mid(1);
+    display.replace(QLatin1Char('/'), QStringLiteral(" > "));
+    // Rows are asked for in order, so `data` reaches `row` before it is inserted at; older
+    // entries move up, and only the one at `row` is read.
+    while (m_data.size() < row)
+        m_data.append(QString());
+    m_data.insert(row, display);
+}
+
+qreal BRDuplicateFilePreviewViewController::calculateHeightForLabel(const QString &text)
+{
+    // Laid out as the row's path label lays it out: same font, width and wrapping.
+    QTextDocument document;
+    document.setDefaultFont(BRDuplicateFilePreviewTableViewCell::pathFont());
+    document.setDocumentMargin(0);
+    QTextOption option = document.defaultTextOption();
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    document.setDefaultTextOption(option);
+    document.setPlainText(text);
+    document.setTextWidth(BRDuplicateFilePreviewTableViewCell::pathWidth);
+    return document.size().height();
+}
+
+qreal BRDuplicateFilePreviewViewController::heightOfRow(int row)
+{
+    insertSymbol(row);
+    if (row < 0 || row >= m_data.size())
+        return BRDuplicateFilePreviewTableViewCell::fixedHeight;
+    return calculateHeightForLabel(m_data.at(row)) +
+           BRDuplicateFilePreviewTableViewCell::fixedHeight;
+}
+
+BRDuplicateFilePreviewTableViewCell *BRDuplicateFilePreviewViewController::viewForRow(int row)
+{
+    BRDuplicateFilePreviewTableViewCell *cell = m_dupePreviewTableView->makeView();
+    cell->setDelegate(this);
+    // The last copy of a group cannot be deleted from here.
+    cell->deleteButton()->setHidden(m_filePaths.size() <= 1);
+    cell->serialLabel()->setText(QString::number(row + 1) + QLatin1Char('.'));
+    cell->setPathText(row >= 0 && row < m_data.size() ? m_data.at(row) : QString());
+
+    const std::optional<QString> modified = row >= 0 && row < m_filePaths.size()
+                                                ? getModifiedDateFromPath(m_filePaths.at(row))
+                                                : std::nullopt;
+    const auto record = m_key ? m_fileInfo.constFind(*m_key) : m_fileInfo.constEnd();
+    if (modified && record != m_fileInfo.constEnd()) {
+        // Every row shows the size of one copy, as the group's record holds it.
+        cell->byteSizeLabel()->setText(getSizeInBytes(record->fileSize));
+        cell->modifiedDateLabel()->setText(QStringLiteral("Modified:") + *modified);
+    } else {
+        cell->byteSizeLabel()->setText(QStringLiteral("Not Available"));
+        cell->modifiedDateLabel()->setText(QString());
+    }
+    return cell;
+}
+
+void BRDuplicateFilePreviewViewController::reloadData()
+{
+    QList<BRDuplicateFilePreviewTableViewCell *> cells;
+    for (int row = 0; row < numberOfRowsInTableView(); ++row) {
+        const int height = qCeil(heightOfRow(row));
+        BRDuplicateFilePreviewTableViewCell *cell = viewForRow(row);
+        cell->setFixedHeight(height);
+        cells.append(cell);
+    }
+    m_dupePreviewTableView->setRows(cells);
+}
+
+BRDuplicateFilePreviewTableViewCell *BRDuplicateFilePreviewViewController::cellAt(int row) const
+{
+    return m_dupePreviewTableView->viewAtRow(row);
+}

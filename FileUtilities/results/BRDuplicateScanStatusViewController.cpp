@@ -1,0 +1,76 @@
+#include "BRDuplicateScanStatusViewController.h"
+
+#include "BRAttributedTitle.h"
+#include "BRColorHelper.h"
+#include "BRDuplicateScanStartViewController.h"
+#include "BRDuplicateStatusViewNewScanButton.h"
+#include "BRDuplicateTabViewController.h"
+#include "ViewFader.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QVBoxLayout>
+
+BRDuplicateScanStatusViewController::BRDuplicateScanStatusViewController(QWidget *parent)
+    : BRDuplicateStatusView(parent),
+      m_statusLabel(new QLabel(QStringLiteral("No duplicate files found"), this)),
+      m_directoryLabel(new QLabel(this)),
+      m_newScanButton(new BRDuplicateStatusViewNewScanButton(this))
+{
+    setObjectName(QStringLiteral("BRDuplicateScanStatusViewController"));
+    m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
+    m_directoryLabel->setObjectName(QStringLiteral("directoryLabel"));
+    m_newScanButton->setObjectName(QStringLiteral("newScanButton"));
+
+    m_statusLabel->setAlignment(Qt::AlignCenter);
+    m_statusLabel->setFont(BRAttributedTitle::font(22));
+    m_directoryLabel->setAlignment(Qt::AlignCenter);
+    m_directoryLabel->setTextFormat(Qt::PlainText);
+    m_directoryLabel->setFont(BRAttributedTitle::font(15));
+    QPalette quiet = m_directoryLabel->palette();
+    quiet.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.6));
+    m_directoryLabel->setPalette(quiet);
+    m_newScanButton->setMinimumSize(160, 40);
+    m_newScanButton->setCursor(Qt::PointingHandCursor);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(40, 40, 40, 40);
+    layout->addStretch(3);
+    layout->addWidget(m_statusLabel);
+    layout->addSpacing(6);
+    layout->addWidget(m_directoryLabel);
+    layout->addSpacing(32);
+    layout->addWidget(m_newScanButton, 0, Qt::AlignHCenter);
+    layout->addStretch(4);
+
+    connect(m_newScanButton, &QPushButton::clicked, this,
+            &BRDuplicateScanStatusViewController::startNewScanAction);
+    setNewScanButtonTitle(QStringLiteral("New Scan"));
+}
+
+void BRDuplicateScanStatusViewController::setNewScanButtonTitle(const QString &title)
+{
+    BRAttributedTitle::apply(m_newScanButton, title, Qt::white, 15);
+}
+
+// This screen stays faded out while it is out of sight; the results screen brings it
+// back to full opacity when it shows it again.
+void BRDuplicateScanStatusViewController::startNewScanAction()
+{
+    auto *tabs = qobject_cast<BRDuplicateTabViewController *>(parentWidget());
+    if (!tabs)
+        return;
+    auto *startScreen = qobject_cast<BRDuplicateScanStartViewController *>(
+        tabs->widget(BRDuplicateTabViewController::startIndex));
+    if (!startScreen)
+        return;
+    QPointer<BRDuplicateTabViewController> tabGuard(tabs);
+    QPointer<BRDuplicateScanStartViewController> startGuard(startScreen);
+    const int fadeMs = m_fadeDurationMs;
+    ViewFader::fade(this, 0.0, fadeMs, [tabGuard, startGuard, fadeMs] {
+        if (!tabGuard || !startGuard)
+            return;
+        tabGuard->selectTabViewAtIndex(BRDuplicateTabViewController::startIndex);
+        ViewFader::fade(startGuard, 1.0, fadeMs);
+    });
+}

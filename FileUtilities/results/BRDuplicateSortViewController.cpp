@@ -1,0 +1,319 @@
+#include "BRDuplicateSortViewController.h"
+
+#include "BRAttributedTitle.h"
+#include "BRColorHelper.h"
+#include "BRDuplicateFilesViewDelegate.h"
+#include "BRDuplicateSortPopUpButton.h"
+
+#include <QFile>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <optional>
+
+namespace {
+
+const QString allKey = QStringLiteral("All");
+const QString photoKey = QStringLiteral("photo");
+const QString musicKey = QStringLiteral("music");
+const QString documentKey = QStringLiteral("document");
+const QString folderKey = QStringLiteral("folder");
+
+constexpr int titlePointSize = 16;
+
+QColor allSelectedColor()
+{
+    return BRColorHelper::color(57, 188, 25, 1.0);
+}
+
+QColor allUnselectedColor()
+{
+    return BRColorHelper::color(0, 0, 0, 0.6);
+}
+
+// The images of the four image buttons, selected first.
+struct SubTypeImages
+{
+    QString selected;
+    QString unselected;
+};
+
+std::optional<SubTypeImages> imagesForKey(const QString &key)
+{
+    if (key == photoKey)
+        return SubTypeImages{QStringLiteral("photos_selected"), QStringLiteral("photos")};
+    if (key == musicKey)
+        return SubTypeImages{QStringLiteral("music_n_videos_selected"),
+                             QStringLiteral("music_n_videos")};
+    if (key == documentKey)
+        return SubTypeImages{QStringLiteral("documents_selected"), QStringLiteral("documents")};
+    if (key == folderKey)
+        return SubTypeImages{QStringLiteral("folders_selected"), QStringLiteral("folders")};
+    return std::nullopt;
+}
+
+QToolButton *makeImageButton(const QString &objectName, const QString &accessibleName,
+                             QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setObjectName(objectName);
+    // The icon alone says nothing to a screen reader or a script on the accessibility bus.
+    button->setAccessibleName(accessibleName);
+    button->setToolTip(accessibleName);
+    button->setAutoRaise(true);
+    button->setIconSize(QSize(24, 24));
+    button->setCursor(Qt::PointingHandCursor);
+    return button;
+}
+
+QPushButton *makeTitleButton(const QString &objectName, QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setObjectName(objectName);
+    button->setFlat(true);
+    button->setCursor(Qt::PointingHandCursor);
+    return button;
+}
+
+} // namespace
+
+QStringList BRDuplicateSortViewController::sortTypes()
+{
+    return {QStringLiteral("All"), QStringLiteral("Name"), QStringLiteral("Size"),
+            QStringLiteral("Type")};
+}
+
+BRDuplicateSortViewController::BRDuplicateSortViewController(QWidget *parent)
+    : QWidget(parent), m_allButton(makeTitleButton(QStringLiteral("allButton"), this)),
+      m_photoButton(makeImageButton(QStringLiteral("photoButton"), QStringLiteral("Photo"), this)),
+      m_documentButton(
+          makeImageButton(QStringLiteral("documentButton"), QStringLiteral("Document"), this)),
+      m_musicButton(
+          makeImageButton(QStringLiteral("musicButton"), QStringLiteral("Music & Videos"), this)),
+      m_folderButton(
+          makeImageButton(QStringLiteral("folderButton"), QStringLiteral("Folder"), this)),
+      m_newScanButton(makeTitleButton(QStringLiteral("newScanButton"), this)),
+      m_sortByButton(new BRDuplicateSortPopUpButton(this))
+{
+    setObjectName(QStringLiteral("BRDuplicateSortViewController"));
+    m_sortByButton->setObjectName(QStringLiteral("sortByButton"));
+    m_sortByButton->setAccessibleName(QStringLiteral("Sort By"));
+    m_sortByButton->addItems(sortTypes());
+    m_allButton->setMinimumWidth(44);
+
+    setAutoFillBackground(true);
+    QPalette ground = palette();
+    ground.setColor(QPalette::Window, BRColorHelper::color(250, 251, 252, 1.0));
+    setPalette(ground);
+
+    auto *line = new QFrame(this);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Plain);
+    QPalette linePalette = line->palette();
+    linePalette.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.12));
+    line->setPalette(linePalette);
+
+    auto *subTypes = new QHBoxLayout;
+    subTypes->setSpacing(6);
+    for (QWidget *button :
+         {static_cast<QWidget *>(m_allButton), static_cast<QWidget *>(m_photoButton),
+          static_cast<QWidget *>(m_musicButton), static_cast<QWidget *>(m_documentButton),
+          static_cast<QWidget *>(m_folderButton)})
+        subTypes->addWidget(button);
+    // Two outer columns of equal stretch keep the sub-types in the middle of the bar,
+    // whatever the widths of the buttons at the ends.
+    auto *bar = new QGridLayout;
+    bar->setContentsMargins(16, 6, 16, 6);
+    bar->addWidget(m_newScanButton, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    bar->addLayout(subTypes, 0, 1, Qt::AlignCenter);
+    bar->addWidget(m_sortByButton, 0, 2, Qt::AlignRight | Qt::AlignVCenter);
+    bar->setColumnStretch(0, 1);
+    bar->setColumnStretch(2, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(line);
+    layout->addLayout(bar);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+
+    connect(m_newScanButton, &QPushButton::clicked, this,
+            &BRDuplicateSortViewController::newScanAction);
+    connect(m_allButton, &QPushButton::clicked, this,
+            &BRDuplicateSortViewController::allButtonAction);
+    connect(m_photoButton, &QToolButton::clicked, this,
+            &BRDuplicateSortViewController::photoButtonAction);
+    connect(m_musicButton, &QToolButton::clicked, this,
+            &BRDuplicateSortViewController::musicButtonAction);
+    connect(m_documentButton, &QToolButton::clicked, this,
+            &BRDuplicateSortViewController::docButtonAction);
+    connect(m_folderButton, &QToolButton::clicked, this,
+            &BRDuplicateSortViewController::folderButtonAction);
+    // Only the user's own choice sorts: the placeholder going in or out must not.
+    connect(m_sortByButton, &QComboBox::activated, this,
+            &BRDuplicateSortViewController::sortAction);
+    connect(m_sortByButton, &BRDuplicateSortPopUpButton::willPopUp, this,
+            &BRDuplicateSortViewController::removeTitleFromPopUp);
+
+    for (const QString &key : {photoKey, musicKey, documentKey, folderKey})
+        applyLook(key, false);
+    setButtonTextColor();
+    m_selectedSortType = QStringLiteral("All");
+}
+
+void BRDuplicateSortViewController::setDuplicateFileViewDelegate(
+    BRDuplicateFilesViewDelegate *delegate)
+{
+    m_duplicateFileViewDelegate = delegate;
+}
+
+void BRDuplicateSortViewController::setButtonTextColor()
+{
+    BRAttributedTitle::apply(m_newScanButton, QStringLiteral("New"), Qt::black, titlePointSize);
+    applyLook(allKey, true);
+}
+
+void BRDuplicateSortViewController::newScanAction()
+{
+    if (m_duplicateFileViewDelegate)
+        m_duplicateFileViewDelegate->startNewScanProcess();
+}
+
+void BRDuplicateSortViewController::allButtonAction()
+{
+    updateSubTypeStatusWithIsEnabled(allKey, photoKey, musicKey, documentKey, folderKey);
+    m_subTypeActive = false;
+    if (m_selectedSortType && m_duplicateFileViewDelegate)
+        m_duplicateFileViewDelegate->sortMainType(*m_selectedSortType, m_subTypeActive);
+}
+
+void BRDuplicateSortViewController::photoButtonAction()
+{
+    subTypeButtonAction(photoKey, QStringLiteral("Photo"));
+}
+
+void BRDuplicateSortViewController::musicButtonAction()
+{
+    subTypeButtonAction(musicKey, QStringLiteral("Music"));
+}
+
+void BRDuplicateSortViewController::docButtonAction()
+{
+    subTypeButtonAction(documentKey, QStringLiteral("Document"));
+}
+
+void BRDuplicateSortViewController::folderButtonAction()
+{
+    subTypeButtonAction(folderKey, QStringLiteral("Folder"));
+}
+
+void BRDuplicateSortViewController::subTypeButtonAction(const QString &key, const QString &name)
+{
+    QStringList others{allKey, photoKey, musicKey, documentKey, folderKey};
+    others.removeOne(key);
+    updateSubTypeStatusWithIsEnabled(key, others[0], others[1], others[2], others[3]);
+    m_subTypeActive = true;
+    if (m_selectedSortType && m_duplicateFileViewDelegate)
+        m_duplicateFileViewDelegate->sortSubType(name, *m_selectedSortType);
+}
+
+void BRDuplicateSortViewController::sortAction()
+{
+    const QString title = m_sortByButton->currentText();
+    // The keyboard and the wheel can reach the placeholder without opening the list; it
+    // names no order.
+    if (title.isEmpty() || title == sortByTitle())
+        return;
+    m_selectedSortType = title;
+    if (m_duplicateFileViewDelegate)
+        m_duplicateFileViewDelegate->sortMainType(title, m_subTypeActive);
+}
+
+void BRDuplicateSortViewController::enableSortType(const QString &subTypeKey)
+{
+    disableSubTypes();
+    enableSubType(subTypeKey);
+    if (m_sortByButton->findText(sortByTitle()) < 0)
+        m_sortByButton->insertItem(0, sortByTitle());
+    m_sortByButton->setCurrentIndex(m_sortByButton->findText(sortByTitle()));
+}
+
+// Opening the list already sorts by its first real item; the bar's own selectedSortType is
+// left as it was, so the sub-type buttons keep sending the last order the user picked.
+void BRDuplicateSortViewController::removeTitleFromPopUp()
+{
+    const int placeholder = m_sortByButton->findText(sortByTitle());
+    if (placeholder < 0)
+        return;
+    m_sortByButton->removeItem(placeholder);
+    m_sortByButton->setCurrentIndex(0);
+    const QString title = m_sortByButton->currentText();
+    if (!title.isEmpty() && m_duplicateFileViewDelegate)
+        m_duplicateFileViewDelegate->sortMainType(title, m_subTypeActive);
+}
+
+void BRDuplicateSortViewController::updateSubTypeStatusWithIsEnabled(const QString &isEnabled,
+                                                                     const QString &isDisabled1,
+                                                                     const QString &isDisabled2,
+                                                                     const QString &isDisabled3,
+                                                                     const QString &isDisabled4)
+{
+    enableSubType(isEnabled);
+    for (const QString &key : {isDisabled1, isDisabled2, isDisabled3, isDisabled4})
+        disableSubType(key);
+}
+
+void BRDuplicateSortViewController::enableSubType(const QString &key)
+{
+    applyLook(key, true);
+}
+
+void BRDuplicateSortViewController::disableSubType(const QString &key)
+{
+    applyLook(key, false);
+}
+
+void BRDuplicateSortViewController::disableSubTypes()
+{
+    m_subTypeActive = false;
+    for (const QString &key : {allKey, photoKey, musicKey, documentKey, folderKey})
+        disableSubType(key);
+}
+
+QToolButton *BRDuplicateSortViewController::imageButtonForKey(const QString &key) const
+{
+    if (key == photoKey)
+        return m_photoButton;
+    if (key == musicKey)
+        return m_musicButton;
+    if (key == documentKey)
+        return m_documentButton;
+    return m_folderButton;
+}
+
+void BRDuplicateSortViewController::applyLook(const QString &key, bool selected)
+{
+    if (key == allKey) {
+        BRAttributedTitle::apply(m_allButton, QStringLiteral("All"),
+                                 selected ? allSelectedColor() : allUnselectedColor(),
+                                 titlePointSize);
+    } else if (const auto images = imagesForKey(key)) {
+        QToolButton *button = imageButtonForKey(key);
+        const QString path = QStringLiteral(":/images/") +
+                             (selected ? images->selected : images->unselected) +
+                             QStringLiteral(".svg");
+        // A missing image leaves the button's image as it was.
+        if (QFile::exists(path))
+            button->setIcon(QIcon(path));
+    } else {
+        return;
+    }
+    if (selected)
+        m_selectedKeys.insert(key);
+    else
+        m_selectedKeys.remove(key);
+}

@@ -1,0 +1,205 @@
+// Drives the real results screen with synthetic groups and measures what a user feels:
+// the longest stretch the main thread is busy while reports stream in, how long a sort
+// and a search keystroke take, and the memory of the whole program.
+//
+// Usage: results_screen [GROUPS] [REPORTS_PER_SECOND]
+// REPORTS_PER_SECOND 0 sends reports as fast as one thread can (a flood no real scan
+// reaches); the default paces them like a fast scan of small groups.
+
+#include "ApplicationStatus.h"
+#include "BRDuplicateFilesViewController.h"
+#include "GroupOrdering.h"
+#include "ScriptedAlertPresenter.h"
+#include "ScriptedWorkspace.h"
+#include "SubTypeFilter.h"
+
+#include <QApplication>
+#include <QCollator>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QRandomGenerator>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <thread>
+
+namespace {
+
+const char *const words[] = {"holiday", "Invoice", "IMG",    "scan",  "Report", "song",
+                             "clip",    "notes",   "Budget", "photo", "draft",  "Track"};
+const char *const kinds[][3] = {{"jpg", "JPEG image", "image/jpeg"},
+                                {"mp3", "MP3 audio", "audio/mpeg"},
+                                {"mp4", "MPEG-4 video", "video/mp4"},
+                                {"txt", "plain text document", "text/plain"},
+                                {"pdf", "PDF document", "application/pdf"}};
+
+GroupRecord recordFor(int index, QRandomGenerator &random)
+{
+    const auto &kind = kinds[random.bounded(5)];
+    GroupRecord record;
+    record.fileName = QString::fromLatin1(words[random.bounded(12)]) +
+                      QString::number(random.bounded(100000)) + u'.' + QString::fromLatin1(kind[0]);
+    record.fileSize = 65537 + random.bounded(50'000'000);
+    record.fileType = QString::fromLatin1(kind[1]);
+    record.fileUTI = QString::fromLatin1(kind[2]);
+    const int copies = 2 + random.bounded(3);
+    for (int copy = 0; copy < copies; ++copy)
+        record.filePath.append(QStringLiteral("/home/user/archive/%1/%2/%3")
+                                   .arg(copy)
+                                   .arg(index % 997)
+                                   .arg(record.fileName));
+    record.oldKey = QString::number(record.fileSize) + record.fileType;
+    record.totalSize = record.fileSize * copies;
+    return record;
+}
+
+long residentKiB()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray &line : status.readAll().split('\n'))
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).trimmed().split(' ').first().toLong();
+    return -1;
+}
+
+template <typename Step> double millisecondsOf(Step step)
+{
+    QElapsedTimer timer;
+    timer.start();
+    step();
+    QCoreApplication::processEvents(); // the coalesced redraw belongs to the step
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    const int groups = argc > 1 ? std::atoi(argv[1]) : 100'000;
+    const int perSecond = argc > 2 ? std::atoi(argv[2]) : 20'000;
+
+    ScriptedAlertPresenter alerts;
+    ScriptedWorkspace workspace;
+    ApplicationStatus status;
+    BRDuplicateFilesViewController view(alerts, workspace, &status);
+    view.resize(1100, 760);
+    view.show();
+    view.startScanProcess(QUrl()); // the scanning state, with reports sent from here
+
+    // The main thread's longest busy stretch: a timer that should fire every millisecond
+    // records how late each tick comes.
+    QElapsedTimer clock;
+    clock.start();
+    qint64 lastTick = 0;
+    qint64 longestFrame = 0;
+    QTimer ticker;
+    QObject::connect(&ticker, &QTimer::timeout, [&] {
+        const qint64 now = clock.nsecsElapsed();
+        longestFrame = std::max(longestFrame, now - lastTick);
+        lastTick = now;
+    });
+    ticker.start(1);
+
+    std::atomic<bool> sent{false};
+    GroupMap all;
+    std::thread producer([&] {
+        QRandomGenerator random(42);
+        GroupMap map;
+        QElapsedTimer pace;
+        pace.start();
+        qint64 duplicates = 0;
+        for (int index = 0; index < groups; ++index) {
+            GroupRecord record = recordFor(index, random);
+            const QString key = record.oldKey + QString::number(index);
+            duplicates += record.filePath.size();
+            map.insert(key, std::move(record));
+            view.updateDuplicateFiles(map, false, key, duplicates, 0);
+            if (perSecond > 0)
+                while (pace.nsecsElapsed() < qint64(index + 1) * 1'000'000'000 / perSecond)
+                    QThread::usleep(20);
+        }
+        view.updateDuplicateFiles(map, true, QString(), duplicates, 0);
+        all = map;
+        sent = true;
+    });
+    while (!sent || view.scanRunning())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    producer.join();
+    const double streamSeconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
+    ticker.stop();
+    QCoreApplication::processEvents();
+
+    std::printf("groups on screen: %lld (of %d sent)\n",
+                static_cast<long long>(view.allData().size()), groups);
+    std::printf("streaming: %.2f s, longest main-thread frame %.1f ms\n", streamSeconds,
+                static_cast<double>(longestFrame) / 1e6);
+    if (qEnvironmentVariableIsSet("QUILLMERE_BENCH_PARTS")) {
+        const QStringList &keys = view.keysOfAll();
+        const GroupMap &map = view.dictOfDupeFiles();
+        std::printf(
+            "  parts: finds %.1f ms, Name keys %.1f ms, Size keys %.1f ms, hits %.1f ms, "
+            "photo keys %.1f ms, reload %.1f ms\n",
+            millisecondsOf([&] {
+                qint64 sum = 0;
+                for (const QString &key : keys)
+                    sum += map.find(key)->fileSize;
+                std::printf("  (%lld)\n", static_cast<long long>(sum % 7));
+            }),
+            millisecondsOf([&] { GroupOrdering::sortedKeys(QStringLiteral("Name"), keys, map); }),
+            millisecondsOf([&] { GroupOrdering::sortedKeys(QStringLiteral("Size"), keys, map); }),
+            millisecondsOf([&] { GroupOrdering::searchHits(QStringLiteral("p"), keys, map); }),
+            millisecondsOf(
+                [&] { SubTypeFilter().keysOfSubType(QStringLiteral("Photo"), keys, map); }),
+            millisecondsOf([&] { view.reloadData(); }));
+        QCollator collator(QLocale(QLocale::English, QLocale::UnitedStates));
+        collator.setNumericMode(true);
+        collator.setCaseSensitivity(Qt::CaseInsensitive);
+        std::vector<QCollatorSortKey> sortKeys;
+        sortKeys.reserve(keys.size());
+        std::printf("  sort keys %.1f ms\n", millisecondsOf([&] {
+                        for (const QString &key : keys)
+                            sortKeys.push_back(collator.sortKey(map.find(key)->fileName));
+                    }));
+        std::printf("  sort by keys %.1f ms\n", millisecondsOf([&] {
+                        std::vector<int> order(sortKeys.size());
+                        for (size_t i = 0; i < order.size(); ++i)
+                            order[i] = int(i);
+                        std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
+                            return sortKeys[size_t(a)].compare(sortKeys[size_t(b)]) < 0;
+                        });
+                    }));
+    }
+    for (const char *sort : {"Name", "Size", "Type", "All"}) {
+        const double ms =
+            millisecondsOf([&] { view.sortMainType(QString::fromLatin1(sort), false); });
+        std::printf("sort %-4s: %7.1f ms\n", sort, ms);
+    }
+    for (const char *subType : {"Photo", "Document"}) {
+        const double ms = millisecondsOf(
+            [&] { view.sortSubType(QString::fromLatin1(subType), QStringLiteral("Size")); });
+        std::printf("sub-type %s (by size): %.1f ms\n", subType, ms);
+    }
+    view.sortMainType(QStringLiteral("Name"), false);
+    auto *search = view.findChild<QLineEdit *>(QStringLiteral("searchField"));
+    double longestKey = 0;
+    for (const char *text : {"p", "ph", "pho", "phot", "photo", "photo1", "photo", "i", "im", "img",
+                             "s", "so", "son", "song"}) {
+        const double ms = millisecondsOf([&] { search->setText(QString::fromLatin1(text)); });
+        longestKey = std::max(longestKey, ms);
+        if (qEnvironmentVariableIsSet("QUILLMERE_BENCH_PARTS"))
+            std::printf("  \"%s\" %.1f ms, %lld hits\n", text, ms,
+                        static_cast<long long>(view.filteredData().size()));
+    }
+    std::printf("search keystroke: longest %.1f ms (hits for \"song\": %lld)\n", longestKey,
+                static_cast<long long>(view.filteredData().size()));
+    const double clearMs = millisecondsOf([&] { search->clear(); });
+    std::printf("search cleared: %.1f ms\n", clearMs);
+    std::printf("peak resident memory: %.0f MB\n", static_cast<double>(residentKiB()) / 1024.0);
+    return 0;
+}
