@@ -346,6 +346,11 @@ void BRDuplicateFilesViewController::applyReport(quint64 generation, const Group
     if (completeStatus)
         return;
     m_dictOfDupeFiles = groups;
+    m_allDataRecords.valid = false;
+    if (!m_allDataKeysValid) {
+        m_allDataKeys = QSet<QString>(m_allData.cbegin(), m_allData.cend());
+        m_allDataKeysValid = true;
+    }
     if (m_allDataKeys.contains(key)) {
         reloadRowForKey(key); // a further copy of a group already listed
     } else {
@@ -424,6 +429,7 @@ void BRDuplicateFilesViewController::insertElementToAllData(const QString &key)
 {
     m_allData.insert(qBound<qsizetype>(0, m_index, m_allData.size()), key);
     m_allDataKeys.insert(key);
+    m_allDataRecords.valid = false;
     ++m_index;
 }
 
@@ -553,6 +559,9 @@ void BRDuplicateFilesViewController::removeAllFromDataSource()
 {
     m_allData.clear();
     m_allDataKeys.clear();
+    m_allDataKeysValid = true;
+    m_allDataRecords = ListRecords();
+    m_filteredRecords = ListRecords();
     m_keysOfAll.clear();
     m_filteredData.clear();
     m_dictOfDupeFiles = GroupMap();
@@ -568,7 +577,27 @@ void BRDuplicateFilesViewController::sortSubTypes(const QString &subType)
     m_index = 0;
     m_subTypeActive = true;
     m_selectedSubType = subType;
-    m_keysOfSubType = m_subTypes.keysOfSubType(subType, m_allData, records());
+    ListRecords *all = listRecordsFor(m_allData);
+    m_keysOfSubType.clear();
+    m_subTypeRecords = ListRecords();
+    if (SubTypeFilter::targetFor(subType)) {
+        QHash<QString, bool> decided; // few kinds, many groups: each kind is decided once
+        for (qsizetype position = 0; position < m_allData.size(); ++position) {
+            const GroupRecord *record = all->records[static_cast<size_t>(position)];
+            if (!record)
+                continue;
+            auto found = decided.constFind(record->fileUTI);
+            if (found == decided.cend())
+                found =
+                    decided.insert(record->fileUTI, m_subTypes.belongs(subType, record->fileUTI));
+            if (!*found)
+                continue;
+            m_keysOfSubType.insert(m_index++, m_allData.at(position));
+            m_subTypeRecords.records.push_back(record);
+        }
+    }
+    m_subTypeRecords.valid = true;
+    preparePrefixes(m_subTypeRecords);
     m_index = m_keysOfSubType.size();
     // The totals then count the subset: the list on screen is the subset, and its records
     // are those of the store.
@@ -580,6 +609,7 @@ void BRDuplicateFilesViewController::disableSubTypes()
     m_selectedSubType.reset();
     m_subTypeActive = false;
     m_keysOfSubType.clear();
+    m_subTypeRecords = ListRecords();
 }
 
 void BRDuplicateFilesViewController::disableSubTypeAndSortData(const QString &sortType)
@@ -615,24 +645,81 @@ void BRDuplicateFilesViewController::sortData(const QString &sortType, const Gro
 {
     m_index = 0;
     m_allData.clear();
+    // Membership is asked only while reports stream in; it is rebuilt if that happens.
     m_allDataKeys.clear();
+    m_allDataKeysValid = false;
+    m_allDataRecords = ListRecords();
     scrollToFirstRow();
     if (sortType == sortAll || sortType == u"Name" || sortType == u"Size" || sortType == u"Type") {
         m_selectedSortType = sortType;
-        m_allData = groups.sharesRootWith(m_dictOfDupeFiles)
-                        ? GroupOrdering::sortedKeys(sortType, m_keysOfAll, records(), m_nameKeys)
-                        : GroupOrdering::sortedKeys(sortType, m_keysOfAll, groups);
+        if (groups.sharesRootWith(m_dictOfDupeFiles)) {
+            m_allData = GroupOrdering::sortedKeys(sortType, m_keysOfAll, records(), m_nameKeys,
+                                                  &m_allDataRecords.records);
+            m_allDataRecords.valid = true;
+            preparePrefixes(m_allDataRecords);
+        } else {
+            m_allData = GroupOrdering::sortedKeys(sortType, m_keysOfAll, groups);
+        }
         m_index = m_allData.size();
-        rebuildAllDataIndex();
     }
     if (m_subTypeActive && m_selectedSubType)
         sortSubTypes(*m_selectedSubType);
     checkSearchActiveAndReloadTableView(m_dictOfDupeFiles);
 }
 
-void BRDuplicateFilesViewController::rebuildAllDataIndex()
+BRDuplicateFilesViewController::ListRecords *
+BRDuplicateFilesViewController::listRecordsFor(const QStringList &list)
 {
-    m_allDataKeys = QSet<QString>(m_allData.cbegin(), m_allData.cend());
+    ListRecords *target = &list == &m_allData         ? &m_allDataRecords
+                          : &list == &m_keysOfSubType ? &m_subTypeRecords
+                          : &list == &m_filteredData  ? &m_filteredRecords
+                                                      : nullptr;
+    if (target && !target->valid)
+        fillListRecords(list, *target);
+    return target;
+}
+
+void BRDuplicateFilesViewController::fillListRecords(const QStringList &list, ListRecords &target)
+{
+    const GroupLookup find = records();
+    target = ListRecords();
+    target.records.reserve(static_cast<size_t>(list.size()));
+    for (const QString &key : list)
+        target.records.push_back(find(key));
+    target.valid = true;
+}
+
+void BRDuplicateFilesViewController::preparePrefixes(ListRecords &target)
+{
+    target.version = ++m_listVersions;
+    // The snapshot keeps every record alive while the worker reads it.
+    const GroupMap snapshot = m_dictOfDupeFiles;
+    const std::vector<const GroupRecord *> records = target.records;
+    const quint64 version = target.version;
+    ListRecords *where = &target;
+    QtConcurrent::run([snapshot, records] {
+        std::vector<NamePrefix> prefixes;
+        prefixes.reserve(records.size());
+        for (const GroupRecord *record : records)
+            prefixes.push_back(record ? NamePrefix::of(record->fileName) : NamePrefix());
+        return prefixes;
+    }).then(this, [where, version](const std::vector<NamePrefix> &prefixes) {
+        if (where->valid && where->version == version && where->prefixes.empty())
+            where->prefixes = prefixes;
+    });
+}
+
+void BRDuplicateFilesViewController::patchRecord(const QString &key, const GroupRecord *record)
+{
+    for (auto [list, target] :
+         {std::pair{&m_allData, &m_allDataRecords}, std::pair{&m_keysOfSubType, &m_subTypeRecords},
+          std::pair{&m_filteredData, &m_filteredRecords}}) {
+        if (!target->valid)
+            continue;
+        const qsizetype position = list->indexOf(key);
+        if (position >= 0)
+            target->records[static_cast<size_t>(position)] = record;
+    }
 }
 
 void BRDuplicateFilesViewController::checkSortTypeAndSortData()
@@ -655,6 +742,7 @@ const QStringList &BRDuplicateFilesViewController::checkSearchActiveAndGetData()
 void BRDuplicateFilesViewController::filterData()
 {
     m_filteredData.clear();
+    m_filteredRecords = ListRecords();
     m_filteredDictData.clear();
     applyFilterWithSearchQuery(m_searchField->text());
 }
@@ -665,14 +753,32 @@ void BRDuplicateFilesViewController::applyFilterWithSearchQuery(const QString &q
     // The first keystroke in a sub-type searches it; the kept sub-type name brings it back
     // when the search is emptied.
     const QStringList source = m_subTypeActive ? m_keysOfSubType : m_allData;
+    ListRecords &sourceRecords = *listRecordsFor(m_subTypeActive ? m_keysOfSubType : m_allData);
     m_subTypeActive = false;
-    const GroupLookup find = records();
-    const QStringList hits = GroupOrdering::searchHits(query, source, find);
-    m_filteredData.reserve(m_filteredData.size() + hits.size());
-    m_filteredDictData.reserve(m_filteredDictData.size() + hits.size());
-    for (const QString &key : hits) {
+    if (sourceRecords.prefixes.size() != sourceRecords.records.size()) {
+        sourceRecords.prefixes.clear();
+        sourceRecords.prefixes.reserve(sourceRecords.records.size());
+        for (const GroupRecord *record : sourceRecords.records)
+            sourceRecords.prefixes.push_back(record ? NamePrefix::of(record->fileName)
+                                                    : NamePrefix());
+    }
+    if (!m_filteredRecords.valid)
+        fillListRecords(m_filteredData, m_filteredRecords);
+    m_filteredRecords.prefixes.clear();
+    const QString lowered = query.toLower();
+    for (qsizetype position = 0; position < source.size(); ++position) {
+        const GroupRecord *record = sourceRecords.records[static_cast<size_t>(position)];
+        if (!record ||
+            !sourceRecords.prefixes[static_cast<size_t>(position)].matches(lowered, *record))
+            continue;
+        const QString &key = source.at(position);
+        m_filteredRecords.records.insert(
+            m_filteredRecords.records.begin() +
+                std::min<qsizetype>(m_index,
+                                    static_cast<qsizetype>(m_filteredRecords.records.size())),
+            record);
         m_filteredData.insert(m_index, key);
-        m_filteredDictData.insert(key, *find(key));
+        m_filteredDictData.insert(key, *record);
         ++m_index;
     }
     setTotalDuplicateFilesCountLabel(m_filteredDictData);
@@ -698,6 +804,7 @@ void BRDuplicateFilesViewController::controlTextDidChange()
         return;
     }
     m_filteredData.clear();
+    m_filteredRecords = ListRecords();
     m_filteredDictData.clear();
     m_searchActive = true;
     applyFilterWithSearchQuery(text);
@@ -806,6 +913,7 @@ void BRDuplicateFilesViewController::updateDictionaryDataForKey(const QString &k
     m_dictOfDupeFiles.insert(key, std::move(record));
     if (indexed)
         m_records.replace(key, m_dictOfDupeFiles);
+    patchRecord(key, m_dictOfDupeFiles.find(key));
     m_totalDupesSize -= fileSize;
     // A running scan goes on from what the user left: a later copy joins the smaller group.
     if (m_duplicateFinder)
@@ -820,11 +928,19 @@ void BRDuplicateFilesViewController::removeValuesForKeyFromDataSource(const QStr
     if (m_duplicateFinder)
         m_duplicateFinder->finder().removeGroup(key);
     const bool indexed = m_records.isBuiltFor(m_dictOfDupeFiles);
+    patchRecord(key, nullptr);
     m_dictOfDupeFiles.remove(key);
     if (indexed)
         m_records.remove(key, m_dictOfDupeFiles);
     m_keysOfAll.removeAll(key);
-    m_keysOfSubType.removeAll(key);
+    if (const qsizetype position = m_keysOfSubType.indexOf(key); position >= 0) {
+        m_keysOfSubType.removeAt(position);
+        if (m_subTypeRecords.valid) {
+            m_subTypeRecords.records.erase(m_subTypeRecords.records.begin() + position);
+            if (m_subTypeRecords.prefixes.size() > static_cast<size_t>(position))
+                m_subTypeRecords.prefixes.erase(m_subTypeRecords.prefixes.begin() + position);
+        }
+    }
 }
 
 void BRDuplicateFilesViewController::openURLData(int index, const QString &key)
@@ -863,26 +979,28 @@ template <typename Groups> void BRDuplicateFilesViewController::countTotals(cons
 {
     m_totaldupes = 0;
     m_totalDupesSize = 0;
-    bool indexed = false;
-    if constexpr (std::is_same_v<Groups, GroupMap>) {
-        if (groups.sharesRootWith(m_dictOfDupeFiles)) {
-            records();
-            indexed = true;
-        }
-    }
-    for (const QString &key : checkSearchActiveAndGetData()) {
-        const GroupRecord *record = nullptr;
-        if constexpr (std::is_same_v<Groups, GroupMap>) {
-            record = indexed ? m_records.find(key) : groups.find(key);
-        } else {
-            const auto found = groups.constFind(key);
-            record = found == groups.cend() ? nullptr : &found.value();
-        }
+    const auto count = [this](const GroupRecord *record) {
         if (!record)
-            continue;
+            return;
         m_totaldupes += record->filePath.size();
         // Deleting all but one copy of each group frees this much.
         m_totalDupesSize += record->totalSize - record->fileSize;
+    };
+    const QStringList &onScreen = checkSearchActiveAndGetData();
+    if constexpr (std::is_same_v<Groups, GroupMap>) {
+        if (groups.sharesRootWith(m_dictOfDupeFiles)) {
+            // The store's own groups: the list's records, in one pass without lookups.
+            for (const GroupRecord *record : listRecordsFor(onScreen)->records)
+                count(record);
+        } else {
+            for (const QString &key : onScreen)
+                count(groups.find(key));
+        }
+    } else {
+        for (const QString &key : onScreen) {
+            const auto found = groups.constFind(key);
+            count(found == groups.cend() ? nullptr : &found.value());
+        }
     }
     m_totalDupesSizeLabel->setText(ByteCountFormatter::binary(m_totalDupesSize));
     m_totalFilesCountLabel->setText(QString::number(m_totaldupes));

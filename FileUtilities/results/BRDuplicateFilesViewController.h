@@ -3,6 +3,7 @@
 #include "BRDuplicateFilesViewDelegate.h"
 #include "GroupIndex.h"
 #include "GroupMap.h"
+#include "NamePrefix.h"
 #include "NameSortKeys.h"
 #include "SubTypeFilter.h"
 #include "WindowDelegate.h"
@@ -19,6 +20,7 @@
 #include <atomic>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class AlertPresenter;
 struct ApplicationStatus;
@@ -164,7 +166,21 @@ private:
     void reloadRowForKey(const QString &key);
     void pollScanProgress();
     qsizetype rowOnScreen(const QString &key) const;
-    void rebuildAllDataIndex();
+    // A list's records, position by position, so that passes over a sorted list need no
+    // lookups; and the lower-cased starts of the names, made when a search first needs
+    // them. Valid until the list or the store changes other than through patchRecord.
+    struct ListRecords
+    {
+        std::vector<const GroupRecord *> records;
+        std::vector<NamePrefix> prefixes;
+        bool valid = false;
+        quint64 version = 0; // changes whenever the records are made anew
+    };
+    ListRecords *listRecordsFor(const QStringList &list);
+    void fillListRecords(const QStringList &list, ListRecords &target);
+    void patchRecord(const QString &key, const GroupRecord *record);
+    // Makes the name prefixes of a freshly sorted list on a worker, ahead of a search.
+    void preparePrefixes(ListRecords &target);
     // The duplicate side's screen at `index`: 0 the start screen, 2 the status screen.
     QWidget *siblingScreen(int index) const;
     template <typename Groups> void countTotals(const Groups &groups);
@@ -194,7 +210,13 @@ private:
     GroupMap m_dictOfDupeFiles;
     QHash<QString, GroupRecord> m_filteredDictData;
     QStringList m_allData;
-    QSet<QString> m_allDataKeys; // membership of m_allData, so a report's test is not a scan
+    QSet<QString> m_allDataKeys; // membership of m_allData during a scan, so a report's
+                                 // test is not a walk through the list
+    bool m_allDataKeysValid = true;
+    ListRecords m_allDataRecords;
+    ListRecords m_subTypeRecords;
+    ListRecords m_filteredRecords;
+    quint64 m_listVersions = 0;
     QStringList m_filteredData;
     QStringList m_keysOfAll;
     QStringList m_keysOfSubType;

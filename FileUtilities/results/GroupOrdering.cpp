@@ -2,6 +2,8 @@
 
 #include "NameSortKeys.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <vector>
 
@@ -14,13 +16,15 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
 }
 
 QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList &keysOfAll,
-                                      const GroupLookup &find, NameSortKeys &names)
+                                      const GroupLookup &find, NameSortKeys &names,
+                                      std::vector<const GroupRecord *> *records)
 {
     struct Entry
     {
         const QString *key;
         const GroupRecord *group;
         const QCollatorSortKey *nameKey = nullptr;
+        int typeRank = 0;
     };
     std::vector<Entry> entries;
     entries.reserve(static_cast<size_t>(keysOfAll.size()));
@@ -30,9 +34,6 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
     }
 
     if (sortType == u"Name") {
-        // Keys first: the hash they live in does not move once all are made.
-        for (const Entry &entry : entries)
-            names.keyFor(entry.group->fileName);
         for (Entry &entry : entries)
             entry.nameKey = &names.keyFor(entry.group->fileName);
         std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
@@ -43,15 +44,30 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
             return a.group->totalSize > b.group->totalSize;
         });
     } else if (sortType == u"Type") {
-        std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
-            return a.group->fileType < b.group->fileType; // code point order, case and all
-        });
+        // A list holds few type texts: order those, then sort the groups by their rank.
+        QHash<QString, int> ranks;
+        for (const Entry &entry : entries)
+            ranks.insert(entry.group->fileType, 0);
+        QStringList types = ranks.keys();
+        std::sort(types.begin(), types.end()); // code point order, case and all
+        for (int rank = 0; rank < types.size(); ++rank)
+            ranks[types.at(rank)] = rank;
+        for (Entry &entry : entries)
+            entry.typeRank = ranks.value(entry.group->fileType);
+        std::stable_sort(entries.begin(), entries.end(),
+                         [](const Entry &a, const Entry &b) { return a.typeRank < b.typeRank; });
     }
 
     QStringList keys;
     keys.reserve(static_cast<qsizetype>(entries.size()));
     for (const Entry &entry : entries)
         keys.append(*entry.key);
+    if (records) {
+        records->clear();
+        records->reserve(entries.size());
+        for (const Entry &entry : entries)
+            records->push_back(entry.group);
+    }
     return keys;
 }
 

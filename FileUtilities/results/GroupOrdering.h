@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
 class NameSortKeys;
 
 // The order and the search of the results list, apart from any screen.
@@ -18,9 +20,11 @@ public:
     // Keys whose group is gone are left out; an unknown sort type gives arrival order.
     static QStringList sortedKeys(const QString &sortType, const QStringList &keysOfAll,
                                   const GroupMap &groups);
-    // The same through a lookup; `names` keeps the collation keys of names between sorts.
+    // The same through a lookup; `names` keeps the collation keys of names between sorts,
+    // and `records`, when given, receives each sorted key's record.
     static QStringList sortedKeys(const QString &sortType, const QStringList &keysOfAll,
-                                  const GroupLookup &find, NameSortKeys &names);
+                                  const GroupLookup &find, NameSortKeys &names,
+                                  std::vector<const GroupRecord *> *records = nullptr);
 
     // The keys, in their order, whose group name begins with the query, case aside. Only
     // the start of the name counts, and only the name, not the paths.

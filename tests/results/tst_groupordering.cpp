@@ -1,4 +1,5 @@
 #include "GroupOrdering.h"
+#include "NamePrefix.h"
 
 #include <QTest>
 
@@ -69,6 +70,35 @@ private Q_SLOTS:
         QFETCH(QString, query);
         QFETCH(QString, hits);
         QCOMPARE(GroupOrdering::searchHits(query, m_keysOfAll, m_groups).join(u' '), hits);
+    }
+
+    // The stored start of a name must answer as the whole lower-cased name would, at the
+    // edge of what it stores and beyond it.
+    void namePrefixMatchesAsTheWholeName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("query");
+        const QString fifteen = QStringLiteral("ABCDEFGHIJKLMNO");
+        QTest::newRow("short") << QStringLiteral("IMG_2041.jpg") << QStringLiteral("img_2");
+        QTest::newRow("exactly the stored length") << fifteen << QStringLiteral("abcdefghijklmno");
+        QTest::newRow("query longer than a short name")
+            << fifteen << QStringLiteral("abcdefghijklmnop");
+        QTest::newRow("long name, long query") << QStringLiteral("Quarterly Report 2024 final.pdf")
+                                               << QStringLiteral("quarterly report 2024 f");
+        QTest::newRow("long name, wrong tail") << QStringLiteral("Quarterly Report 2024 final.pdf")
+                                               << QStringLiteral("quarterly report 2024 x");
+        QTest::newRow("accented") << QStringLiteral("Écoute.mp3") << QStringLiteral("éc");
+        QTest::newRow("Greek") << QStringLiteral("ΑΘΗΝΑ 2019.jpg") << QStringLiteral("αθη");
+        QTest::newRow("empty query") << QStringLiteral("a.txt") << QString();
+    }
+    void namePrefixMatchesAsTheWholeName()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, query);
+        GroupRecord record;
+        record.fileName = name;
+        const bool expected = name.toLower().startsWith(query.toLower());
+        QCOMPARE(NamePrefix::of(name).matches(query.toLower(), record), expected);
     }
 };
 
