@@ -8,7 +8,8 @@ QtAlertPresenter::QtAlertPresenter(QWidget *window) : m_window(window) {}
 int QtAlertPresenter::runModal(const AlertRequest &request)
 {
     QMessageBox box(m_window);
-    box.setIcon(QMessageBox::Warning);
+    // A question that risks something warns; a plain notice informs.
+    box.setIcon(request.buttons.size() > 1 ? QMessageBox::Warning : QMessageBox::Information);
     box.setText(request.title);
     box.setInformativeText(request.text);
     const QStringList buttons =

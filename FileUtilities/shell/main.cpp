@@ -19,6 +19,9 @@ int main(int argc, char *argv[])
     QApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("app.brackenhale.Quillmere"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/quillmere.svg")));
+    // Outside a desktop session Qt knows no icon theme; the installed Adwaita stands in,
+    // so file types and the search field still get their icons.
+    QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
 
     QSettings settings;
     QtAlertPresenter alerts;

@@ -1,43 +1,288 @@
 // Takes screenshots of Quillmere's screens as a new user meets them: the intro, the home
-// folder choice, the main view on both tabs, and About. It drives the real window with
-// scripted dialogs and grabs each screen, so no display or window manager is needed.
+// folder choice, the main view on both tabs, About, and the duplicate finder from choosing
+// a folder to the detail of a group. It drives the real window with scripted dialogs and
+// grabs each screen, so no display or window manager is needed.
 //
 // Usage: quillmere-screenshots [OUTPUT_FOLDER]   (default: screenshots)
 
 #include "AppDelegate.h"
 #include "BRAboutWindowController.h"
+#include "BRDuplicateFilesMainViewController.h"
+#include "BRDuplicateFilesViewController.h"
+#include "BRDuplicateFinderClass.h"
+#include "BRDuplicateScanStartViewController.h"
+#include "BRDuplicateSortViewController.h"
+#include "BRDuplicateStartScanButton.h"
 #include "BRMainWindowController.h"
 #include "BRToolPlaceholderView.h"
+#include "RowAnchoredPopover.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
 #include "ScriptedWorkspace.h"
 
 #include <QApplication>
+#include <QDate>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPainterPath>
 #include <QPushButton>
+#include <QRandomGenerator>
+#include <QScreen>
+#include <QSemaphore>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QThread>
+#include <QThreadPool>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-bool save(QWidget &widget, const QString &folder, const QString &name)
+// Lets timers, fades and the thumbnail threads run for a while.
+void settle(int ms = 300)
 {
-    QApplication::processEvents();
-    const QString path = folder + u'/' + name + QStringLiteral(".png");
-    const bool saved = widget.grab().save(path);
+    QElapsedTimer timer;
+    timer.start();
+    do {
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+        QThread::msleep(5);
+    } while (timer.elapsed() < ms);
+}
+
+bool write(const QImage &image, const QString &folder, const QString &name)
+{
+    const QString path = folder + u'/' + name + u".png"_s;
+    const bool saved = image.save(path);
     std::printf("%s %s\n", saved ? "wrote" : "could not write", qPrintable(path));
     return saved;
 }
+
+bool save(QWidget &widget, const QString &folder, const QString &name)
+{
+    settle();
+    return write(widget.grab().toImage(), folder, name);
+}
+
+// A popup is a window of its own, so the screen is put together from both grabs.
+bool saveWithPopup(QWidget &window, QWidget &popup, const QString &folder, const QString &name)
+{
+    settle();
+    const QRect windowRect(window.mapToGlobal(QPoint(0, 0)), window.size());
+    const QRect popupRect = popup.geometry();
+    const QRect area = windowRect.united(popupRect).adjusted(-24, -24, 24, 24);
+    QImage screen(area.size(), QImage::Format_ARGB32_Premultiplied);
+    screen.fill(QColor(214, 218, 224));
+    QPainter painter(&screen);
+    painter.drawPixmap(windowRect.topLeft() - area.topLeft(), window.grab());
+    painter.drawPixmap(popupRect.topLeft() - area.topLeft(), popup.grab());
+    painter.end();
+    return write(screen, folder, name);
+}
+
+// A screen larger than the window, so a popover beside a row has room as on a desktop.
+void configureOffscreenScreen(const QTemporaryDir &scratch)
+{
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.isEmpty() && platform != "offscreen")
+        return;
+    const QString config = scratch.filePath(u"screen.json"_s);
+    QFile file(config);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    file.write(R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": 1440,
+                  "height": 900, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    file.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(config));
+}
+
+// ---------------------------------------------------------------------------------------
+// A folder as people keep them: photos in two places, an album downloaded twice, a backup
+// of the recipes. Every copy that should be found is larger than 64 KiB.
+
+class SampleTree
+{
+public:
+    explicit SampleTree(const QString &root) : m_root(root) {}
+
+    const QString &root() const { return m_root; }
+    QString path(const QString &relative) const { return m_root + u'/' + relative; }
+
+    void makeFolder(const QString &relative) const { QDir().mkpath(path(relative)); }
+
+    void writeBytes(const QString &relative, const QByteArray &data) const
+    {
+        QDir().mkpath(QFileInfo(path(relative)).absolutePath());
+        QFile file(path(relative));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(data);
+    }
+
+    // Sound and film are stand-ins: a header and bytes that never compress.
+    void writeMedia(const QString &relative, const QByteArray &header, qint64 size,
+                    quint32 seed) const
+    {
+        QByteArray data(size, Qt::Uninitialized);
+        QRandomGenerator random(seed);
+        for (char &byte : data)
+            byte = static_cast<char>(random.bounded(256));
+        data.replace(0, header.size(), header);
+        writeBytes(relative, data);
+    }
+
+    // A landscape with a little grain, as a camera leaves it.
+    void writePhoto(const QString &relative, QSize size, quint32 seed, bool sepia = false) const
+    {
+        QRandomGenerator random(seed);
+        QImage image(size, QImage::Format_RGB32);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const int hue = random.bounded(180, 240);
+        QLinearGradient sky(0, 0, 0, size.height());
+        sky.setColorAt(0, QColor::fromHsv(hue, 150, 235));
+        sky.setColorAt(0.6, QColor::fromHsv(hue - 170 < 0 ? hue + 190 : hue - 170, 70, 255));
+        painter.fillRect(image.rect(), sky);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(255, 236, 190));
+        const int sun = size.width() / 9;
+        painter.drawEllipse(QPoint(random.bounded(sun, size.width() - sun), size.height() / 3),
+                            sun / 2, sun / 2);
+        for (int layer = 0; layer < 4; ++layer) {
+            QPainterPath hill;
+            const double base = size.height() * (0.5 + 0.12 * layer);
+            hill.moveTo(0, size.height());
+            hill.lineTo(0, base);
+            const int steps = 6;
+            for (int step = 1; step <= steps; ++step) {
+                const double x = size.width() * step / static_cast<double>(steps);
+                const double y = base - random.bounded(size.height() / 6);
+                hill.quadTo(x - size.width() / (2.0 * steps), y - size.height() / 12.0, x, y);
+            }
+            hill.lineTo(size.width(), size.height());
+            painter.setBrush(QColor::fromHsv(100 + 20 * layer, 120, 150 - 30 * layer));
+            painter.drawPath(hill);
+        }
+        painter.end();
+        for (int y = 0; y < size.height(); ++y) {
+            auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+            for (int x = 0; x < size.width(); ++x) {
+                const int grain = random.bounded(-7, 8);
+                int r = qRed(line[x]) + grain, g = qGreen(line[x]) + grain,
+                    b = qBlue(line[x]) + grain;
+                if (sepia) {
+                    const int grey = (r * 3 + g * 6 + b) / 10;
+                    r = grey + 40;
+                    g = grey + 20;
+                    b = grey - 10;
+                }
+                line[x] = qRgb(qBound(0, r, 255), qBound(0, g, 255), qBound(0, b, 255));
+            }
+        }
+        QDir().mkpath(QFileInfo(path(relative)).absolutePath());
+        image.save(path(relative), relative.endsWith(u".png") ? "PNG" : "JPG", 90);
+    }
+
+    void copy(const QString &from, const QString &to) const
+    {
+        QDir().mkpath(QFileInfo(path(to)).absolutePath());
+        QFile::copy(path(from), path(to));
+    }
+
+    void build() const
+    {
+        writePhoto(u"Pictures/Lake Tahoe 2019/IMG_2041.jpg"_s, {1600, 1200}, 41);
+        writePhoto(u"Pictures/Lake Tahoe 2019/IMG_2057.jpg"_s, {1600, 1200}, 57);
+        writePhoto(u"Pictures/Lake Tahoe 2019/IMG_2064.jpg"_s, {1600, 1200}, 64);
+        writePhoto(u"Pictures/Lake Tahoe 2019/IMG_2103.jpg"_s, {1200, 1600}, 103);
+        writePhoto(u"Pictures/Lake Tahoe 2019/sunset-panorama.png"_s, {1800, 600}, 7);
+        writePhoto(u"Pictures/Family/grandma-1987-scan.jpg"_s, {1000, 1300}, 87, true);
+        copy(u"Pictures/Lake Tahoe 2019/IMG_2041.jpg"_s, u"Backup/Phone Camera/IMG_2041.jpg"_s);
+        copy(u"Pictures/Lake Tahoe 2019/IMG_2057.jpg"_s, u"Backup/Phone Camera/IMG_2057.jpg"_s);
+        copy(u"Pictures/Lake Tahoe 2019/IMG_2103.jpg"_s, u"Backup/Phone Camera/IMG_2103.jpg"_s);
+        copy(u"Pictures/Lake Tahoe 2019/IMG_2041.jpg"_s, u"Desktop/IMG_2041.jpg"_s);
+        copy(u"Pictures/Lake Tahoe 2019/sunset-panorama.png"_s,
+             u"Pictures/Wallpapers/sunset-panorama.png"_s);
+        copy(u"Pictures/Family/grandma-1987-scan.jpg"_s, u"Downloads/grandma-1987-scan.jpg"_s);
+        writeBytes(u"Desktop/todo.txt"_s, "- call the plumber\n- renew passport\n");
+
+        const QString album = u"Music/Aurora Strings - Harbour/"_s;
+        writeMedia(album + u"01 Morning Light.mp3"_s, "ID3", 4'180'311, 1);
+        writeMedia(album + u"02 Harbour Lights.mp3"_s, "ID3", 5'022'870, 2);
+        writeMedia(album + u"03 Low Tide.mp3"_s, "ID3", 3'760'104, 3);
+        copy(album + u"01 Morning Light.mp3"_s, u"Downloads/01 Morning Light.mp3"_s);
+        writeMedia(u"Videos/Birthday party 2021.mp4"_s,
+                   QByteArray("\0\0\0\x18"
+                              "ftypmp42",
+                              12),
+                   9'437'411, 4);
+        writeMedia(u"Videos/Kayak trip.mp4"_s,
+                   QByteArray("\0\0\0\x18"
+                              "ftypmp42",
+                              12),
+                   7'340'219, 5);
+        copy(u"Videos/Birthday party 2021.mp4"_s, u"Backup/Videos/Birthday party 2021.mp4"_s);
+
+        writeMedia(u"Documents/Tax Return 2021.pdf"_s, "%PDF-1.7\n", 412'330, 6);
+        copy(u"Documents/Tax Return 2021.pdf"_s, u"Downloads/Tax Return 2021.pdf"_s);
+        writeBytes(u"Documents/Letters/Letter to the council.txt"_s,
+                   "Dear Sir or Madam,\n\nthe street light outside number 14 has been out "
+                   "since March.\n");
+        QByteArray journal = "Kitchen journal\n===============\n\n";
+        const char *dishes[] = {"Lemon drizzle cake - 180 C, 40 min; a little dry at 45.",
+                                "Sourdough - fed the starter at 8, baked at 19. Good crumb.",
+                                "Tomato soup - roast the tomatoes first, much better.",
+                                "Apple crumble - half the sugar is plenty."};
+        for (int day = 0; day < 1400; ++day)
+            journal += QDate(2019, 1, 1).addDays(day).toString(Qt::ISODate).toLatin1() + "  " +
+                       dishes[day % 4] + '\n';
+        writeBytes(u"Documents/Recipes/Kitchen journal.txt"_s, journal);
+        writeBytes(u"Documents/Recipes/Lemon drizzle cake.txt"_s,
+                   "225 g butter, 225 g sugar, 4 eggs, 225 g flour, 2 lemons.\n");
+        writeBytes(u"Documents/Recipes/Sourdough starter.txt"_s,
+                   "50 g rye flour and 50 g water, every morning for a week.\n");
+        for (const QString &name :
+             {u"Kitchen journal.txt"_s, u"Lemon drizzle cake.txt"_s, u"Sourdough starter.txt"_s})
+            copy(u"Documents/Recipes/"_s + name, u"Backup/Recipes/"_s + name);
+    }
+
+private:
+    QString m_root;
+};
+
+// The thread pool's threads, held until released, so that a scan that starts meanwhile
+// waits for them.
+class PoolGate
+{
+public:
+    PoolGate()
+    {
+        QThreadPool *pool = QThreadPool::globalInstance();
+        pool->waitForDone();
+        for (int i = 0; i < pool->maxThreadCount(); ++i)
+            pool->start([this] { m_open.acquire(); });
+    }
+    void release()
+    {
+        m_open.release(QThreadPool::globalInstance()->maxThreadCount());
+        QThreadPool::globalInstance()->waitForDone();
+    }
+
+private:
+    QSemaphore m_open;
+};
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryDir scratch;
+    configureOffscreenScreen(scratch);
     QApplication application(argc, argv);
     const QString output =
         argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("screenshots");
@@ -47,23 +292,28 @@ int main(int argc, char *argv[])
     }
 
     // A first launch, with settings and a home folder of its own.
-    QTemporaryDir scratch;
     QSettings settings(scratch.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
     ScriptedAlertPresenter alerts;
     ScriptedOpenPanel panel;
     ScriptedWorkspace workspace;
     AppDelegate appDelegate(alerts, settings);
+    BRDuplicateFilesMainViewController *duplicates = nullptr;
     BRMainWindowController window(
         {appDelegate, alerts, panel, workspace, settings,
-         [] {
-             return new BRToolPlaceholderView(QStringLiteral("Duplicates"),
-                                              QStringLiteral("The duplicate finder's screens."));
+         [&] {
+             duplicates =
+                 new BRDuplicateFilesMainViewController({alerts, panel, workspace, &appDelegate});
+             // No waiting for fades; the status screen comes as soon as a scan finds nothing.
+             duplicates->setTimings({0, 0, 100});
+             return duplicates;
          },
          [] {
              return new BRToolPlaceholderView(QStringLiteral("Rename"),
                                               QStringLiteral("The batch renamer's screens."));
          }});
     window.resize(960, 640);
+    if (const QScreen *screen = window.screen())
+        window.move(screen->availableGeometry().center() - window.rect().center());
     window.windowDidLoad();
     window.show();
 
@@ -77,8 +327,80 @@ int main(int argc, char *argv[])
     window.findChild<QToolButton *>(QStringLiteral("renameImageButton"))->click();
     ok &= save(window, output, QStringLiteral("4-main-rename"));
 
-    BRAboutWindowController about(workspace, &window);
-    about.show();
-    ok &= save(about, output, QStringLiteral("5-about"));
+    {
+        BRAboutWindowController about(workspace, &window);
+        about.show();
+        ok &= save(about, output, QStringLiteral("5-about"));
+    }
+    if (!duplicates)
+        return 1;
+
+    // The duplicate finder over a folder of its own.
+    window.findChild<QToolButton *>(QStringLiteral("duplicateImageButton"))->click();
+    const SampleTree tree(scratch.filePath(u"Family Archive"_s));
+    tree.build();
+    BRDuplicateScanStartViewController *start = duplicates->scanStartViewController();
+    BRDuplicateFilesViewController *results = duplicates->duplicateFilesViewController();
+    start->setSelectedUrl(QUrl::fromLocalFile(tree.root()));
+    ok &= save(window, output, u"6-duplicates-start"_s);
+
+    // The scan is held back until it has walked the whole folder, and its reports are then
+    // handed to the results screen a few at a time, so the shot in between is the same on
+    // every run.
+    {
+        PoolGate gate;
+        start->startScanButton()->click();
+        for (int wait = 0; wait < 200 && !results->scanRunning(); ++wait)
+            settle(10);
+        gate.release();
+    }
+    QCoreApplication::removePostedEvents(qApp, QEvent::MetaCall);
+    if (!results->duplicateFinder())
+        return 1;
+    const GroupMap found = results->duplicateFinder()->dictOfDupeFiles();
+    QStringList keys = found.keys();
+    // In the order the walk formed them: by the path of each group's second copy.
+    std::sort(keys.begin(), keys.end(), [&found](const QString &a, const QString &b) {
+        return found.find(a)->filePath.value(1) < found.find(b)->filePath.value(1);
+    });
+    GroupMap arrived;
+    qint64 copies = 0;
+    qint64 spare = 0;
+    const auto arrive = [&](const QString &key) {
+        const GroupRecord &record = *found.find(key);
+        arrived.insert(key, record);
+        copies += record.filePath.size();
+        spare += record.totalSize - record.fileSize;
+        results->updateDuplicateFiles(arrived, false, key, copies, spare);
+    };
+    for (qsizetype i = 0; i < qMin<qsizetype>(4, keys.size()); ++i)
+        arrive(keys.at(i));
+    ok &= save(window, output, u"7-duplicates-scanning"_s);
+
+    for (qsizetype i = 4; i < keys.size(); ++i)
+        arrive(keys.at(i));
+    results->updateDuplicateFiles(arrived, true, QString(), copies, spare);
+    settle();
+    results->sortViewController()->photoButton()->click();
+    auto *search = results->findChild<QLineEdit *>(u"searchField"_s);
+    for (const QChar letter : u"img"_s)
+        search->insert(letter);
+    ok &= save(window, output, u"8-duplicates-results"_s);
+
+    results->showPopOverView(0);
+    if (RowAnchoredPopover *popover = results->popover())
+        ok &= saveWithPopup(window, *popover, output, u"9-duplicates-popover"_s);
+    else
+        ok = false;
+    results->closePopOver();
+
+    // A new scan, of a folder with nothing in it.
+    results->sortViewController()->newScanButton()->click();
+    settle();
+    tree.makeFolder(u"Empty"_s);
+    start->setSelectedUrl(QUrl::fromLocalFile(tree.path(u"Empty"_s)));
+    start->startScanButton()->click();
+    settle(800);
+    ok &= save(window, output, u"10-duplicates-status"_s);
     return ok ? 0 : 1;
 }
