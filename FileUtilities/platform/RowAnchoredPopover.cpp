@@ -129,17 +129,35 @@ void RowAnchoredPopover::showRelativeToRect(const QRect &rect, QWidget *view,
         screen = view ? view->screen() : QGuiApplication::primaryScreen();
     const QRect available = screen ? screen->availableGeometry() : QRect();
 
-    setEdge(preferredEdge);
-    adjustSize();
-    const QSize size = this->size();
+    // The notch adds to the side it stands on, so the size depends on the edge.
+    const auto sizeOn = [this](Qt::Edge on) {
+        setEdge(on);
+        adjustSize();
+        return this->size();
+    };
+    const auto missing = [&](Qt::Edge on) {
+        return overflow(placed(anchor, sizeOn(on), on), available, on);
+    };
     Qt::Edge edge = preferredEdge;
     if (available.isValid()) {
-        const int wanted = overflow(placed(anchor, size, edge), available, edge);
-        const int other = overflow(placed(anchor, size, opposite(edge)), available, edge);
+        const int wanted = missing(edge);
+        const int other = missing(opposite(edge));
         if (wanted > 0 && other < wanted)
             edge = opposite(edge);
+        // A row about as wide as the screen leaves no room at either end; held on the
+        // screen, the popover would cover the row and point at nothing. Below or above it
+        // does better, when that fits.
+        if (wanted > 0 && other > 0) {
+            const Qt::Edge across = horizontal(preferredEdge) ? Qt::BottomEdge : Qt::RightEdge;
+            for (const Qt::Edge candidate : {across, opposite(across)}) {
+                if (missing(candidate) == 0) {
+                    edge = candidate;
+                    break;
+                }
+            }
+        }
     }
-    setEdge(edge);
+    const QSize size = sizeOn(edge);
 
     QRect frame = placed(anchor, size, edge);
     if (available.isValid()) {

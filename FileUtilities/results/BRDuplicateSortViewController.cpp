@@ -26,6 +26,16 @@ const QString folderKey = QStringLiteral("folder");
 
 constexpr int titlePointSize = 16;
 
+// The title sizes come from the Mac, where a point is a pixel; at 96 dpi the same points
+// come out a third larger and crowd the 24-pixel icons beside them.
+void applyTitle(QAbstractButton *button, const QString &title, const QColor &color)
+{
+    BRAttributedTitle::apply(button, title, color, titlePointSize);
+    QFont font = button->font();
+    font.setPixelSize(titlePointSize);
+    button->setFont(font);
+}
+
 QColor allSelectedColor()
 {
     return BRColorHelper::color(57, 188, 25, 1.0);
@@ -173,7 +183,7 @@ void BRDuplicateSortViewController::setDuplicateFileViewDelegate(
 
 void BRDuplicateSortViewController::setButtonTextColor()
 {
-    BRAttributedTitle::apply(m_newScanButton, QStringLiteral("New"), Qt::black, titlePointSize);
+    applyTitle(m_newScanButton, QStringLiteral("New"), Qt::black);
     applyLook(allKey, true);
 }
 
@@ -298,9 +308,8 @@ QToolButton *BRDuplicateSortViewController::imageButtonForKey(const QString &key
 void BRDuplicateSortViewController::applyLook(const QString &key, bool selected)
 {
     if (key == allKey) {
-        BRAttributedTitle::apply(m_allButton, QStringLiteral("All"),
-                                 selected ? allSelectedColor() : allUnselectedColor(),
-                                 titlePointSize);
+        applyTitle(m_allButton, QStringLiteral("All"),
+                   selected ? allSelectedColor() : allUnselectedColor());
     } else if (const auto images = imagesForKey(key)) {
         QToolButton *button = imageButtonForKey(key);
         const QString path = QStringLiteral(":/images/") +

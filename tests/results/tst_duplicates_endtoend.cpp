@@ -62,7 +62,7 @@ private Q_SLOTS:
         ApplicationStatus status;
         BRDuplicateFilesMainViewController main({alerts, panel, workspace, &status});
         main.setTimings({0, 0, 50});
-        main.resize(900, 600);
+        main.resize(780, 560); // within the test screen of 800 x 600
         main.show();
         QVERIFY(QTest::qWaitForWindowExposed(&main));
 
@@ -87,9 +87,12 @@ private Q_SLOTS:
 
         auto *table = results->findChild<QListView *>(u"duplicateTableView"_s);
         QTRY_COMPARE(table->model()->rowCount(), 1);
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
-                          table->visualRect(table->model()->index(0, 0)).center());
+        const QRect row = table->visualRect(table->model()->index(0, 0));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, row.center());
         QTRY_VERIFY(results->popover() && results->popover()->isVisible());
+        // No room at either end of a row as wide as the list: it opens below, not over it.
+        const QRect rowOnScreen(table->viewport()->mapToGlobal(row.topLeft()), row.size());
+        QVERIFY(!results->popover()->geometry().intersects(rowOnScreen));
         BRDuplicateFilePreviewViewController *detail = results->previewDelegate();
         QCOMPARE(detail->dupePreviewTableView()->numberOfRows(), 3);
 

@@ -25,14 +25,15 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QIcon>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QScreen>
-#include <QSemaphore>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QThreadPool>
@@ -255,26 +256,18 @@ private:
     QString m_root;
 };
 
-// The thread pool's threads, held until released, so that a scan that starts meanwhile
-// waits for them.
-class PoolGate
+// Holds back what the scan thread hands to the main thread: its reports come as calls
+// queued on the application object.
+class ReportHold : public QObject
 {
 public:
-    PoolGate()
-    {
-        QThreadPool *pool = QThreadPool::globalInstance();
-        pool->waitForDone();
-        for (int i = 0; i < pool->maxThreadCount(); ++i)
-            pool->start([this] { m_open.acquire(); });
-    }
-    void release()
-    {
-        m_open.release(QThreadPool::globalInstance()->maxThreadCount());
-        QThreadPool::globalInstance()->waitForDone();
-    }
+    ReportHold() { qApp->installEventFilter(this); }
 
-private:
-    QSemaphore m_open;
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        return watched == qApp && event->type() == QEvent::MetaCall;
+    }
 };
 
 } // namespace
@@ -284,6 +277,15 @@ int main(int argc, char *argv[])
     QTemporaryDir scratch;
     configureOffscreenScreen(scratch);
     QApplication application(argc, argv);
+    // Offscreen, no desktop names an icon theme and the system's icon folders are not
+    // searched; the shots show the icons of a desktop session instead of blanks.
+    if (QIcon::themeName().isEmpty()) {
+        QStringList paths = QIcon::themeSearchPaths();
+        paths += QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, u"icons"_s,
+                                           QStandardPaths::LocateDirectory);
+        QIcon::setThemeSearchPaths(paths);
+        QIcon::setThemeName(u"Adwaita"_s);
+    }
     const QString output =
         argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("screenshots");
     if (!QDir().mkpath(output)) {
@@ -344,17 +346,17 @@ int main(int argc, char *argv[])
     start->setSelectedUrl(QUrl::fromLocalFile(tree.root()));
     ok &= save(window, output, u"6-duplicates-start"_s);
 
-    // The scan is held back until it has walked the whole folder, and its reports are then
-    // handed to the results screen a few at a time, so the shot in between is the same on
-    // every run.
+    // The scan's own reports are held back until it has walked the whole folder; its groups
+    // are then handed to the results screen a few at a time, so the shot in between is the
+    // same on every run.
     {
-        PoolGate gate;
+        const ReportHold hold;
         start->startScanButton()->click();
         for (int wait = 0; wait < 200 && !results->scanRunning(); ++wait)
             settle(10);
-        gate.release();
+        QThreadPool::globalInstance()->waitForDone();
+        QCoreApplication::removePostedEvents(qApp, QEvent::MetaCall);
     }
-    QCoreApplication::removePostedEvents(qApp, QEvent::MetaCall);
     if (!results->duplicateFinder())
         return 1;
     const GroupMap found = results->duplicateFinder()->dictOfDupeFiles();
