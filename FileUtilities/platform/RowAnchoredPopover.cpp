@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QRegion>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -13,16 +12,6 @@ namespace {
 constexpr int cornerRadius = 10;
 constexpr int arrowHalfWidth = 9;
 constexpr int border = 1;
-
-// Only a compositor can blend the antialiased corners and notch with what lies behind;
-// without one, the clear parts of a translucent window show black. Wayland always
-// composites, and an offscreen grab blends like a compositor; elsewhere the shape is cut
-// with a mask instead.
-bool translucencyWorks()
-{
-    const QString platform = QGuiApplication::platformName();
-    return platform.startsWith(u"wayland") || platform == u"offscreen";
-}
 
 bool horizontal(Qt::Edge edge)
 {
@@ -70,16 +59,6 @@ int overflow(const QRect &frame, const QRect &screen, Qt::Edge edge)
     return qMax(0, screen.top() - frame.top()) + qMax(0, frame.bottom() - screen.bottom());
 }
 
-// Without translucency the window keeps only the pixels of its shape.
-void cutToShape(QWidget *window, const QPainterPath &outline)
-{
-    if (window->testAttribute(Qt::WA_TranslucentBackground))
-        return;
-    const QRegion shape(outline.toFillPolygon().toPolygon());
-    if (window->mask() != shape)
-        window->setMask(shape);
-}
-
 int clampedStart(int start, int length, int screenStart, int screenLength)
 {
     if (length >= screenLength)
@@ -94,8 +73,9 @@ RowAnchoredPopover::RowAnchoredPopover(QWidget *content, QWidget *parent)
 {
     setObjectName(QStringLiteral("RowAnchoredPopover"));
     setAttribute(Qt::WA_DeleteOnClose);
-    if (translucencyWorks())
-        setAttribute(Qt::WA_TranslucentBackground);
+    // The rounded corners and the notch show what lies behind. Without a compositor, Qt's
+    // X11 backend cuts the window to its opaque pixels, so nothing shows black there either.
+    setAttribute(Qt::WA_TranslucentBackground);
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(0);
     layout->addWidget(m_content);
@@ -174,7 +154,6 @@ void RowAnchoredPopover::showRelativeToRect(const QRect &rect, QWidget *view,
     m_arrowCenter = length > 2 * margin ? qBound(margin, along, length - margin) : length / 2;
 
     setGeometry(frame);
-    cutToShape(this, outline());
     show();
     update();
 }
@@ -218,16 +197,9 @@ QPainterPath RowAnchoredPopover::outline() const
 void RowAnchoredPopover::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QColor body(251, 251, 252);
-    // A change of size since the popover was placed needs a new mask.
-    cutToShape(this, outline());
-    // Opaque and masked: the pixels the mask keeps outside the smooth outline take the
-    // body's colour, not the window background's.
-    if (!testAttribute(Qt::WA_TranslucentBackground))
-        painter.fillRect(rect(), body);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(0, 0, 0, 46), border));
-    painter.setBrush(body);
+    painter.setBrush(QColor(251, 251, 252));
     painter.drawPath(outline());
 }
 

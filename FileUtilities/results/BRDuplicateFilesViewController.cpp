@@ -261,14 +261,8 @@ void BRDuplicateFilesViewController::startScanProcess(const std::optional<QUrl> 
         [self, generation](const GroupMap &groups, bool completeStatus, const QString &key,
                            qint64 totalDuplicates, qint64 totalDupesSize) {
             // On the scan thread: the store is the main thread's alone.
-            QMetaObject::invokeMethod(
-                qApp,
-                [self, generation, groups, completeStatus, key, totalDuplicates, totalDupesSize] {
-                    if (self)
-                        self->applyReport(generation, groups, completeStatus, key, totalDuplicates,
-                                          totalDupesSize);
-                },
-                Qt::QueuedConnection);
+            postReport(self, generation, groups, completeStatus, key, totalDuplicates,
+                       totalDupesSize);
         });
     m_progressTimer->start(m_timings.progressPollMs);
     pollScanProgress();
@@ -280,13 +274,21 @@ void BRDuplicateFilesViewController::updateDuplicateFiles(const GroupMap &dictOf
                                                           qint64 totalDupesSize)
 {
     // The same hand-over as a running scan's reports, tied to the scan of this moment.
-    const quint64 generation = m_scanGeneration;
-    QPointer<BRDuplicateFilesViewController> self(this);
+    postReport(this, m_scanGeneration, dictOfDupeFiles, completeStatus, key, totalDuplicates,
+               totalDupesSize);
+}
+
+void BRDuplicateFilesViewController::postReport(QPointer<BRDuplicateFilesViewController> self,
+                                                quint64 generation, const GroupMap &groups,
+                                                bool completeStatus, const QString &key,
+                                                qint64 totalDuplicates, qint64 totalDupesSize)
+{
+    // Any thread. The application object outlives the screen, which may be gone by then.
     QMetaObject::invokeMethod(
-        this,
-        [self, generation, dictOfDupeFiles, completeStatus, key, totalDuplicates, totalDupesSize] {
+        qApp,
+        [self, generation, groups, completeStatus, key, totalDuplicates, totalDupesSize] {
             if (self)
-                self->applyReport(generation, dictOfDupeFiles, completeStatus, key, totalDuplicates,
+                self->applyReport(generation, groups, completeStatus, key, totalDuplicates,
                                   totalDupesSize);
         },
         Qt::QueuedConnection);

@@ -161,6 +161,9 @@ protected:
 
 private:
     void buildScreen();
+    static void postReport(QPointer<BRDuplicateFilesViewController> self, quint64 generation,
+                           const GroupMap &groups, bool completeStatus, const QString &key,
+                           qint64 totalDuplicates, qint64 totalDupesSize);
     void applyReport(quint64 generation, const GroupMap &groups, bool completeStatus,
                      const QString &key, qint64 totalDuplicates, qint64 totalDupesSize);
     void reloadRowForKey(const QString &key);
