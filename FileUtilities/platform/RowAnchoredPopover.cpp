@@ -73,8 +73,8 @@ RowAnchoredPopover::RowAnchoredPopover(QWidget *content, QWidget *parent)
 {
     setObjectName(QStringLiteral("RowAnchoredPopover"));
     setAttribute(Qt::WA_DeleteOnClose);
-    // The rounded corners and the notch show what lies behind. Without a compositor, Qt's
-    // X11 backend cuts the window to its opaque pixels, so nothing shows black there either.
+    // The rounded corners and the notch show what lies behind. Without a compositor, Qt on
+    // X11 shapes the window to its painted pixels, so no black shows there either.
     setAttribute(Qt::WA_TranslucentBackground);
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(0);
@@ -124,8 +124,8 @@ void RowAnchoredPopover::showRelativeToRect(const QRect &rect, QWidget *view,
         const int other = missing(opposite(edge));
         if (wanted > 0 && other < wanted)
             edge = opposite(edge);
-        // A row about as wide as the screen leaves no room at either end; held on the
-        // screen, the popover would cover the row and point at nothing. Below or above it
+        // A row as wide as its list seldom leaves room at either end; held on the screen,
+        // the popover would cover the row and point at nothing. Below or above the row
         // does better, when that fits.
         if (wanted > 0 && other > 0) {
             const Qt::Edge across = horizontal(preferredEdge) ? Qt::BottomEdge : Qt::RightEdge;

@@ -6,6 +6,7 @@
 #include <QCursor>
 #include <QEnterEvent>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
@@ -78,7 +79,9 @@ BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget
     m_deleteButton->setToolTip(QStringLiteral("Move to Trash"));
     m_deleteButton->setAutoRaise(true);
     m_deleteButton->setCursor(Qt::PointingHandCursor);
-    m_deleteButton->setIcon(style()->standardIcon(QStyle::SP_TrashIcon));
+    // The themes' full-colour bins shout among the grey rows; their plain outline does not.
+    m_deleteButton->setIcon(QIcon::fromTheme(QStringLiteral("user-trash-symbolic"),
+                                             style()->standardIcon(QStyle::SP_TrashIcon)));
     m_deleteButton->setIconSize(QSize(16, 16));
     m_deleteButton->setFixedSize(26, 26);
     connect(m_deleteButton, &QToolButton::clicked, this,
