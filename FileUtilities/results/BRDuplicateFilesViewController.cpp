@@ -306,17 +306,11 @@ void BRDuplicateFilesViewController::applyReport(quint64 generation, const Group
         m_scanRunning = false;
         if (m_duplicateMainViewDelegate)
             m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
-        if (m_appDelegate) {
-            m_appDelegate->duplicateScanStatus = false;
-            m_appDelegate->duplicateFilesCount = static_cast<int>(m_dictOfDupeFiles.size());
-        }
         if (m_duplicateFinder)
             m_duplicateFinder->finder().setCancelActive(true);
         m_duplicateFinder.reset();
-        m_progressTimer->stop();
         m_scanStatus = completeStatus;
-        if (m_cancelViewDelegate)
-            m_cancelViewDelegate->stopAnimateProgress();
+        scanEnded(static_cast<int>(m_dictOfDupeFiles.size()));
         if (m_searchActive)
             filterData();
         if (m_selectedSortType)
@@ -334,13 +328,7 @@ void BRDuplicateFilesViewController::applyReport(quint64 generation, const Group
         m_scanStatus = true;
         if (m_duplicateMainViewDelegate)
             m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
-        if (m_appDelegate) {
-            m_appDelegate->duplicateScanStatus = false;
-            m_appDelegate->duplicateFilesCount = 0;
-        }
-        m_progressTimer->stop();
-        if (m_cancelViewDelegate)
-            m_cancelViewDelegate->stopAnimateProgress();
+        scanEnded(0);
         showDuplicateStatusView();
         return;
     }
@@ -398,6 +386,17 @@ void BRDuplicateFilesViewController::prepareNameKeys()
         if (generation == m_scanGeneration && keys.size() > m_nameKeys.size())
             m_nameKeys = keys;
     });
+}
+
+void BRDuplicateFilesViewController::scanEnded(int groupsHeld)
+{
+    if (m_appDelegate) {
+        m_appDelegate->duplicateScanStatus = false;
+        m_appDelegate->duplicateFilesCount = groupsHeld;
+    }
+    m_progressTimer->stop();
+    if (m_cancelViewDelegate)
+        m_cancelViewDelegate->stopAnimateProgress();
 }
 
 void BRDuplicateFilesViewController::reloadRowForKey(const QString &key)
@@ -532,13 +531,7 @@ void BRDuplicateFilesViewController::clearAll()
     ++m_scanGeneration;
     if (m_duplicateFinder)
         m_duplicateFinder->finder().setCancelActive(true);
-    if (m_appDelegate) {
-        m_appDelegate->duplicateScanStatus = false;
-        m_appDelegate->duplicateFilesCount = 0;
-    }
-    m_progressTimer->stop();
-    if (m_cancelViewDelegate)
-        m_cancelViewDelegate->stopAnimateProgress();
+    scanEnded(0);
     closePopOver();
     removeAllFromDataSource();
     disableSubTypes();

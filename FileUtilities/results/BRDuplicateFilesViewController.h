@@ -166,6 +166,8 @@ private:
                            qint64 totalDuplicates, qint64 totalDupesSize);
     void applyReport(quint64 generation, const GroupMap &groups, bool completeStatus,
                      const QString &key, qint64 totalDuplicates, qint64 totalDupesSize);
+    // What every end of a scan tells the application and the progress view.
+    void scanEnded(int groupsHeld);
     void reloadRowForKey(const QString &key);
     void pollScanProgress();
     qsizetype rowOnScreen(const QString &key) const;
