@@ -1,6 +1,7 @@
 #include "BRDuplicateCancelViewController.h"
 
 #include "BRColorHelper.h"
+#include "BRDuplicateBarDivider.h"
 #include "BRDuplicateFilesViewDelegate.h"
 
 #include <QFrame>
@@ -40,17 +41,7 @@ BRDuplicateCancelViewController::BRDuplicateCancelViewController(QWidget *parent
     quiet.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.55));
     m_currentFolderLabel->setPalette(quiet);
 
-    setAutoFillBackground(true);
-    QPalette ground = palette();
-    ground.setColor(QPalette::Window, BRColorHelper::color(250, 251, 252, 1.0));
-    setPalette(ground);
-
-    auto *line = new QFrame(this);
-    line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Plain);
-    QPalette linePalette = line->palette();
-    linePalette.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.12));
-    line->setPalette(linePalette);
+    auto *line = new BRDuplicateBarDivider(this);
 
     auto *texts = new QHBoxLayout;
     texts->setSpacing(12);

@@ -2,6 +2,7 @@
 
 #include "BRAttributedTitle.h"
 #include "BRColorHelper.h"
+#include "BRDuplicateBarDivider.h"
 #include "BRDuplicateFilesViewDelegate.h"
 #include "BRDuplicateSortPopUpButton.h"
 
@@ -116,17 +117,7 @@ BRDuplicateSortViewController::BRDuplicateSortViewController(QWidget *parent)
     m_sortByButton->addItems(sortTypes());
     m_allButton->setMinimumWidth(44);
 
-    setAutoFillBackground(true);
-    QPalette ground = palette();
-    ground.setColor(QPalette::Window, BRColorHelper::color(250, 251, 252, 1.0));
-    setPalette(ground);
-
-    auto *line = new QFrame(this);
-    line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Plain);
-    QPalette linePalette = line->palette();
-    linePalette.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.12));
-    line->setPalette(linePalette);
+    auto *line = new BRDuplicateBarDivider(this);
 
     auto *subTypes = new QHBoxLayout;
     subTypes->setSpacing(6);
