@@ -576,16 +576,9 @@ void BRDuplicateFilesViewController::sortSubTypes(const QString &subType)
     m_keysOfSubType.clear();
     m_subTypeRecords = ListRecords();
     if (SubTypeFilter::targetFor(subType)) {
-        QHash<QString, bool> decided; // few kinds, many groups: each kind is decided once
         for (qsizetype position = 0; position < m_allData.size(); ++position) {
             const GroupRecord *record = all->records[static_cast<size_t>(position)];
-            if (!record)
-                continue;
-            auto found = decided.constFind(record->fileUTI);
-            if (found == decided.cend())
-                found =
-                    decided.insert(record->fileUTI, m_subTypes.belongs(subType, record->fileUTI));
-            if (!*found)
+            if (!record || !m_subTypes.belongs(subType, record->fileUTI))
                 continue;
             m_keysOfSubType.insert(m_index++, m_allData.at(position));
             m_subTypeRecords.records.push_back(record);

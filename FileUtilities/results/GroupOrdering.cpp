@@ -1,5 +1,6 @@
 #include "GroupOrdering.h"
 
+#include "NamePrefix.h"
 #include "NameSortKeys.h"
 
 #include <QHash>
@@ -74,23 +75,12 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
 QStringList GroupOrdering::searchHits(const QString &query, const QStringList &keys,
                                       const GroupMap &groups)
 {
-    return searchHits(query, keys, [&groups](const QString &key) { return groups.find(key); });
-}
-
-QStringList GroupOrdering::searchHits(const QString &query, const QStringList &keys,
-                                      const GroupLookup &find)
-{
+    // The results screen matches through stored name starts; the rule is the same.
     const QString lowered = query.toLower();
     QStringList hits;
     for (const QString &key : keys) {
-        const GroupRecord *group = find(key);
-        if (!group)
-            continue;
-        const QString &name = group->fileName;
-        // Most names fail on their first letters; lower-case only what can match.
-        const qsizetype length = qMin(name.size(), lowered.size() + 8);
-        if (name.left(length).toLower().startsWith(lowered) ||
-            (length < name.size() && name.toLower().startsWith(lowered)))
+        const GroupRecord *group = groups.find(key);
+        if (group && NamePrefix::of(group->fileName).matches(lowered, *group))
             hits.append(key);
     }
     return hits;

@@ -30,6 +30,4 @@ public:
     // the start of the name counts, and only the name, not the paths.
     static QStringList searchHits(const QString &query, const QStringList &keys,
                                   const GroupMap &groups);
-    static QStringList searchHits(const QString &query, const QStringList &keys,
-                                  const GroupLookup &find);
 };

@@ -2,8 +2,6 @@
 
 #include "UniformTypes.h"
 
-#include <QHash>
-
 namespace {
 const QString folderIdentifier = QStringLiteral("Folder");
 }
@@ -46,6 +44,15 @@ bool SubTypeFilter::checkAllowedDocumentType(const QString &fileUTI) const
 
 bool SubTypeFilter::belongs(const QString &subType, const QString &fileUTI) const
 {
+    QHash<QString, bool> &decided = m_decided[subType];
+    auto found = decided.constFind(fileUTI);
+    if (found == decided.cend())
+        found = decided.insert(fileUTI, decide(subType, fileUTI));
+    return *found;
+}
+
+bool SubTypeFilter::decide(const QString &subType, const QString &fileUTI) const
+{
     const auto target = targetFor(subType);
     if (!target)
         return false;
@@ -67,24 +74,10 @@ bool SubTypeFilter::belongs(const QString &subType, const QString &fileUTI) cons
 QStringList SubTypeFilter::keysOfSubType(const QString &subType, const QStringList &allData,
                                          const GroupMap &groups) const
 {
-    return keysOfSubType(subType, allData,
-                         [&groups](const QString &key) { return groups.find(key); });
-}
-
-QStringList SubTypeFilter::keysOfSubType(const QString &subType, const QStringList &allData,
-                                         const GroupLookup &find) const
-{
-    // A list holds few kinds and many groups: each kind is decided once per run.
-    QHash<QString, bool> decided;
     QStringList keys;
     for (const QString &key : allData) {
-        const GroupRecord *group = find(key);
-        if (!group)
-            continue;
-        auto found = decided.constFind(group->fileUTI);
-        if (found == decided.cend())
-            found = decided.insert(group->fileUTI, belongs(subType, group->fileUTI));
-        if (*found)
+        const GroupRecord *group = groups.find(key);
+        if (group && belongs(subType, group->fileUTI))
             keys.append(key);
     }
     return keys;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "GroupLookup.h"
 #include "GroupMap.h"
 #include "TypeConformance.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -18,6 +18,7 @@ public:
     // The kind a sub-type stands for; nothing for a name that is no sub-type.
     static std::optional<QString> targetFor(const QString &subType);
 
+    // Decided once per kind: a list holds few kinds and many groups.
     bool belongs(const QString &subType, const QString &fileUTI) const;
     // False for source code and developer project files, which count as text.
     bool checkNotAllowedDocumentType(const QString &fileUTI) const;
@@ -28,9 +29,10 @@ public:
     // whose group is gone are passed over.
     QStringList keysOfSubType(const QString &subType, const QStringList &allData,
                               const GroupMap &groups) const;
-    QStringList keysOfSubType(const QString &subType, const QStringList &allData,
-                              const GroupLookup &find) const;
 
 private:
+    bool decide(const QString &subType, const QString &fileUTI) const;
+
     TypeConformance m_types;
+    mutable QHash<QString, QHash<QString, bool>> m_decided; // by sub-type, then type
 };
