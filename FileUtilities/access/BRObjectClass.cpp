@@ -1,6 +1,6 @@
 #include "BRObjectClass.h"
 
-#include "FolderBookmark.h"
+#include "ItemBookmark.h"
 #include "SupportLinks.h"
 #include "ThumbnailRenderer.h"
 #include "Workspace.h"
@@ -41,7 +41,7 @@ void BRObjectClass::saveBookmark(const QUrl &url)
     const QString path = url.toLocalFile();
     if (path.isEmpty())
         return;
-    const auto bookmark = FolderBookmark::forPath(path);
+    const auto bookmark = ItemBookmark::forPath(path);
     if (!bookmark)
         return;
     const QByteArray data = bookmark->toData();
@@ -58,7 +58,7 @@ void BRObjectClass::saveBookmark(const QUrl &url)
 
 std::optional<QUrl> BRObjectClass::resolveBookmarkData(const QByteArray &data)
 {
-    const auto bookmark = FolderBookmark::fromData(data);
+    const auto bookmark = ItemBookmark::fromData(data);
     if (!bookmark)
         return std::nullopt;
     const auto resolved = bookmark->resolve();

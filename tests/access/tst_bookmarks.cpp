@@ -1,13 +1,19 @@
 #include "BRObjectClass.h"
 #include "BRRealHomeDirectory.h"
+#include "ItemBookmark.h"
 #include "TestDir.h"
 
+#include <QDataStream>
 #include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <QTest>
 
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 class tst_Bookmarks : public QObject
 {
@@ -95,6 +101,96 @@ private Q_SLOTS:
         f.objects.saveBookmark(second);
         QVERIFY(f.stored() != first);
         QCOMPARE(f.objects.resolveBookmarkData(f.stored()), second);
+    }
+
+    // A file bookmarked in Pictures and moved; "" where it is too far to be looked for.
+    void findsAMovedFile_data()
+    {
+        QTest::addColumn<QString>("movedTo");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("renamed in place") << u"Pictures/b.jpg"_s << u"Pictures/b.jpg"_s;
+        QTest::newRow("hidden in place") << u"Pictures/.a.jpg"_s << u"Pictures/.a.jpg"_s;
+        QTest::newRow("into a folder beside it")
+            << u"Pictures/Trip/a.jpg"_s << u"Pictures/Trip/a.jpg"_s;
+        QTest::newRow("into a folder below that")
+            << u"Pictures/Trip/Day 1/x.jpg"_s << u"Pictures/Trip/Day 1/x.jpg"_s;
+        QTest::newRow("into a folder beside its folder")
+            << u"Archive/a.jpg"_s << u"Archive/a.jpg"_s;
+        QTest::newRow("below a folder beside its folder")
+            << u"Archive/2026/11/a.jpg"_s << u"Archive/2026/11/a.jpg"_s;
+        QTest::newRow("deeper than the search reaches") << u"Pictures/1/2/3/4/a.jpg"_s << QString();
+    }
+    void findsAMovedFile()
+    {
+        QFETCH(QString, movedTo);
+        QFETCH(QString, expected);
+        TestDir dir;
+        // Neighbours of every kind that the search passes over.
+        dir.createFile(u"Pictures/b-other.jpg"_s, "b");
+        dir.createFile(u"Archive/2026/notes.txt"_s, "n");
+        dir.createDir(u"Pictures/Trip/Day 1"_s);
+        dir.createDir(u"Archive/2026/11"_s);
+        const QString original = dir.createFile(u"Pictures/a.jpg"_s, "photo");
+        const auto bookmark = ItemBookmark::forPath(original);
+        QVERIFY(bookmark);
+        QCOMPARE(bookmark->resolve()->path, original);
+        QCOMPARE(bookmark->resolve()->stale, false);
+
+        QDir().mkpath(QFileInfo(dir.filePath(movedTo)).absolutePath());
+        QVERIFY(QDir().rename(original, dir.filePath(movedTo)));
+        const auto resolved = ItemBookmark::fromData(bookmark->toData())->resolve();
+        if (expected.isEmpty()) {
+            QCOMPARE(resolved.has_value(), false);
+            return;
+        }
+        QVERIFY(resolved);
+        QCOMPARE(resolved->path, dir.filePath(expected));
+        QCOMPARE(resolved->stale, true);
+    }
+
+    // The freed inode goes to the next file made nearby; that file is someone else's.
+    void nothingForADeletedFileEvenWhenItsInodeIsReused()
+    {
+        TestDir dir;
+        dir.createFile(u"Pictures/before.jpg"_s, "b");
+        const QString original = dir.createFile(u"Pictures/a.jpg"_s, "photo");
+        const auto bookmark = ItemBookmark::forPath(original);
+        QVERIFY(bookmark);
+        struct stat before = {};
+        QCOMPARE(::lstat(QFile::encodeName(original).constData(), &before), 0);
+        QVERIFY(QFile::remove(original));
+        QCOMPARE(bookmark->resolve().has_value(), false);
+
+        bool reused = false;
+        for (int i = 0; i < 20 && !reused; ++i) {
+            const QString newcomer = dir.createFile(u"Pictures/new-%1.jpg"_s.arg(i), "new");
+            struct stat after = {};
+            QCOMPARE(::lstat(QFile::encodeName(newcomer).constData(), &after), 0);
+            reused = after.st_ino == before.st_ino;
+        }
+        QCOMPARE(bookmark->resolve().has_value(), false);
+        if (!reused)
+            QSKIP("this file system did not hand the freed inode out again");
+    }
+
+    // Bookmarks stored by earlier versions held the path, device and inode only.
+    void resolvesBookmarksOfTheFirstFormat()
+    {
+        TestDir dir;
+        const QString folder = dir.createDir(u"Documents"_s);
+        struct stat info = {};
+        QCOMPARE(::lstat(QFile::encodeName(folder).constData(), &info), 0);
+        QByteArray data;
+        QDataStream out(&data, QIODevice::WriteOnly);
+        out.setVersion(QDataStream::Qt_6_4);
+        out << quint32(0x514d424b) << quint16(1) << folder << quint64(info.st_dev)
+            << quint64(info.st_ino);
+
+        QCOMPARE(ItemBookmark::fromData(data)->resolve()->path, folder);
+        QVERIFY(QDir().rename(folder, dir.filePath(u"Documents-old"_s)));
+        QCOMPARE(ItemBookmark::fromData(data)->resolve()->path, dir.filePath(u"Documents-old"_s));
+        data.append('\0');
+        QCOMPARE(ItemBookmark::fromData(data).has_value(), false);
     }
 
     void realHomeDirectoryComesFromThePasswordDatabase()
