@@ -35,6 +35,8 @@
 #include <QVBoxLayout>
 #include <QtConcurrent/QtConcurrentRun>
 
+#include <memory>
+
 #include <sys/stat.h>
 
 namespace {
@@ -381,10 +383,12 @@ void BRDuplicateFilesViewController::prepareNameKeys()
         groups.forEach([&names](const QString &, const GroupRecord &record) {
             names.append(record.fileName);
         });
-        return NameSortKeys::madeFor(names);
-    }).then(this, [this, generation](const NameSortKeys &keys) {
-        if (generation == m_scanGeneration && keys.size() > m_nameKeys.size())
-            m_nameKeys = keys;
+        // Handed over by pointer: copying a hundred thousand keys would cost the main
+        // thread what making them on a worker saved.
+        return std::make_shared<NameSortKeys>(NameSortKeys::madeFor(names));
+    }).then(this, [this, generation](const std::shared_ptr<NameSortKeys> &keys) {
+        if (generation == m_scanGeneration && keys->size() > m_nameKeys.size())
+            m_nameKeys = std::move(*keys);
     });
 }
 

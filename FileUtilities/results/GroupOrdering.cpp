@@ -24,8 +24,7 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
     {
         const QString *key;
         const GroupRecord *group;
-        const QCollatorSortKey *nameKey = nullptr;
-        int typeRank = 0;
+        int rank = 0;
     };
     std::vector<Entry> entries;
     entries.reserve(static_cast<size_t>(keysOfAll.size()));
@@ -35,11 +34,15 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
     }
 
     if (sortType == u"Name") {
-        for (Entry &entry : entries)
-            entry.nameKey = &names.keyFor(entry.group->fileName);
-        std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
-            return a.nameKey->compare(*b.nameKey) < 0;
-        });
+        QStringList fileNames;
+        fileNames.reserve(static_cast<qsizetype>(entries.size()));
+        for (const Entry &entry : entries)
+            fileNames.append(entry.group->fileName);
+        const std::vector<int> ranks = names.ranksOf(fileNames);
+        for (size_t i = 0; i < entries.size(); ++i)
+            entries[i].rank = ranks[i];
+        std::stable_sort(entries.begin(), entries.end(),
+                         [](const Entry &a, const Entry &b) { return a.rank < b.rank; });
     } else if (sortType == u"Size") {
         std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
             return a.group->totalSize > b.group->totalSize;
@@ -54,9 +57,9 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
         for (int rank = 0; rank < types.size(); ++rank)
             ranks[types.at(rank)] = rank;
         for (Entry &entry : entries)
-            entry.typeRank = ranks.value(entry.group->fileType);
+            entry.rank = ranks.value(entry.group->fileType);
         std::stable_sort(entries.begin(), entries.end(),
-                         [](const Entry &a, const Entry &b) { return a.typeRank < b.typeRank; });
+                         [](const Entry &a, const Entry &b) { return a.rank < b.rank; });
     }
 
     QStringList keys;

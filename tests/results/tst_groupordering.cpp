@@ -1,5 +1,6 @@
 #include "GroupOrdering.h"
 #include "NamePrefix.h"
+#include "NameSortKeys.h"
 
 #include <QTest>
 
@@ -52,6 +53,24 @@ private Q_SLOTS:
         QFETCH(QString, sortType);
         QFETCH(QString, order);
         QCOMPARE(GroupOrdering::sortedKeys(sortType, m_keysOfAll, m_groups).join(u' '), order);
+    }
+
+    // Ranks made ahead must stay right when names arrive later, and a name whose
+    // characters are not shared with the kept ones must still find its rank.
+    void keptRanksFollowNewNames()
+    {
+        const auto list = [](const char *names) {
+            return QString::fromUtf8(names).split(u' ');
+        };
+        NameSortKeys keys = NameSortKeys::madeFor(list("b10 b2 c"));
+        QCOMPARE(keys.ranksOf(list("c b2 b10")), (std::vector<int>{2, 0, 1}));
+        // "a" and "b3" fall before and between the known names: every rank moves.
+        QCOMPARE(keys.ranksOf(list("c a b3 b2 b10")), (std::vector<int>{4, 0, 2, 1, 3}));
+        // Built anew, so not sharing characters; capitals rank with small letters.
+        QString upper = QStringLiteral("B2");
+        upper.detach();
+        QCOMPARE(keys.ranksOf({upper, QStringLiteral("b2")}), (std::vector<int>{1, 1}));
+        QCOMPARE(keys.size(), 6);
     }
 
     void search_data()
