@@ -1,0 +1,91 @@
+#include "FileMover.h"
+
+#include <QFile>
+#include <QStringDecoder>
+
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+FileMover::Result failure(int error)
+{
+    return FileMover::Result{false, error, QString::fromLocal8Bit(std::strerror(error))};
+}
+
+// The kernel or the file system does not know RENAME_NOREPLACE.
+bool lacksNoReplace(int error)
+{
+    return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP;
+}
+
+} // namespace
+
+FileMover::Result FileMover::move(const QString &sourcePath, const QString &targetPath)
+{
+    const QByteArray source = QFile::encodeName(sourcePath);
+    const QByteArray target = QFile::encodeName(targetPath);
+    if (source.isEmpty() || target.isEmpty())
+        return failure(ENOENT);
+    if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) ==
+        0)
+        return Result{true, 0, QString()};
+    const int error = errno;
+    if (!lacksNoReplace(error))
+        return failure(error);
+    // EINVAL also means a folder moved into itself; only a file may take the other way,
+    // and a folder's own error is the one to report.
+    struct stat info = {};
+    if (::lstat(source.constData(), &info) != 0)
+        return failure(errno);
+    if (S_ISDIR(info.st_mode))
+        return failure(error);
+    return moveByLink(sourcePath, targetPath);
+}
+
+FileMover::Result FileMover::moveByLink(const QString &sourcePath, const QString &targetPath)
+{
+    const QByteArray source = QFile::encodeName(sourcePath);
+    const QByteArray target = QFile::encodeName(targetPath);
+    if (source.isEmpty() || target.isEmpty())
+        return failure(ENOENT);
+    // Without AT_SYMLINK_FOLLOW a symbolic link is linked as itself, as a move would.
+    if (::linkat(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), 0) != 0)
+        return failure(errno);
+    if (::unlink(source.constData()) != 0) {
+        const int error = errno;
+        // The new name is a second link we made a moment ago, to the same data that the
+        // old name still holds: taking it away restores the folder as it was.
+        ::unlink(target.constData());
+        return failure(error);
+    }
+    return Result{true, 0, QString()};
+}
+
+bool FileMover::isValidFileName(const QString &name, const QString &folderPath)
+{
+    if (name.isEmpty() || name == QLatin1String(".") || name == QLatin1String(".."))
+        return false;
+    if (name.contains(QLatin1Char('/')) || name.contains(QChar(u'\0')))
+        return false;
+    const QByteArray native = QFile::encodeName(name);
+    // An unpaired surrogate has no encoding: the file would get another name than shown.
+    // A leading U+FEFF belongs to the name, so the decoder must keep it.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    if (QString(decoder.decode(native)) != name)
+        return false;
+    long limit = NAME_MAX;
+    if (!folderPath.isEmpty()) {
+        const long folderLimit =
+            ::pathconf(QFile::encodeName(folderPath).constData(), _PC_NAME_MAX);
+        if (folderLimit > 0)
+            limit = folderLimit;
+    }
+    return native.size() <= limit;
+}
