@@ -1,0 +1,112 @@
+#pragma once
+
+#include "RenameRecord.h"
+
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <optional>
+
+class BRRenameViewDelegate;
+
+// What a rule run met: the keys of rows whose file URL has no path. The caller removes
+// them from the list and tells the user; the run itself never touches the screen.
+struct RuleRunReport
+{
+    QStringList missingKeys;
+};
+
+// What a rename run met: the keys of rows whose file is neither at its path nor found
+// again by its bookmark.
+struct ExecutionReport
+{
+    QStringList missingKeys;
+};
+
+// The batch renamer's worker: computes rule names into the rows and moves the files.
+// It keeps no list of its own and no state but the delegate, which it only hands back:
+// every call works on the maps it is given, touches nothing shared and nothing on
+// screen, and so may run on a worker thread over a private copy of the list.
+//
+// Rule names: "Before name" puts the text (or number) before, any other `where` after;
+// the screen only ever passes "After name" or "Before name". Names are used exactly as
+// given: nothing is trimmed, padded or joined with a separator.
+//
+// A row's file path is its sourceURL's local file path; a URL that is not a local file
+// counts as having no path.
+class BRRenameFormat
+{
+public:
+    explicit BRRenameFormat(BRRenameViewDelegate *delegate = nullptr);
+
+    BRRenameViewDelegate *delegate() const { return m_delegate; }
+    void setDelegate(BRRenameViewDelegate *delegate) { m_delegate = delegate; }
+
+    // The start number limit: a start above it falls back.
+    static constexpr qint64 startNumberLimit = 99999;
+
+    // The number text of the full-name rule, parsed as a signed decimal of 64 bits: an
+    // optional '+' or '-', then one or more ASCII digits, nothing else ("007" is 7, "+5" is
+    // 5, " 5", "5.0", "" and anything out of range do not parse).
+    static std::optional<qint64> parseNumber(const QString &text);
+
+    // The full-name rule: each row not marked "edited" gets `newName` and a running number.
+    // Rows are taken in key order; the number also advances on edited rows (they keep their
+    // names, the others keep their numbers), not on keys without a record nor on rows
+    // without a path, which are reported. Nothing happens, and nothing is reported, when
+    // `newName` is absent or `numberText` does not parse: then the result is nothing.
+    // "" counts from 1, and so does a start above startNumberLimit; the running number
+    // itself has no limit.
+    std::optional<RuleRunReport> changeFullFileNames(const QString &numberText,
+                                                     const std::optional<QString> &newName,
+                                                     RenameFileDetails &details,
+                                                     const QStringList &keys,
+                                                     const QString &where) const;
+    // The add-text rule: each row not marked "edited" gets its base name with `text` added.
+    // Nothing happens, and the result is nothing, for an empty text.
+    std::optional<RuleRunReport> addTextToFileNames(const QString &text, RenameFileDetails &details,
+                                                    const QStringList &keys,
+                                                    const QString &where) const;
+
+    // The full-name rule's name of the row at `row` (from 0) computed alone, for a hand
+    // edit that is withdrawn. The number is the parsed start plus the row; a sum above
+    // startNumberLimit, unlike in a whole run, falls back to row + 1, and so does an empty
+    // number text. Nothing when the new name is absent or "", or the number text is absent
+    // or does not parse.
+    static std::optional<QString> fullFileNameForRow(const std::optional<QString> &newNameText,
+                                                     const std::optional<QString> &numberText,
+                                                     const QString &where, int row);
+    // The add-text rule's name of one file.
+    static QString addedTextName(const QUrl &sourceURL, const QString &text, const QString &where);
+    // The last path component up to its first dot: "holiday" for holiday.2019.final.jpg,
+    // "" for .profile.
+    static QString baseName(const QUrl &sourceURL);
+
+    // Moves the listed files to their new names, one after another in key order, each in
+    // its own folder, and writes each row's State. A row without a record, or whose
+    // destinationURL is absent or "", is left alone. A file that is not at its path is
+    // looked for by its bookmark; when found, the row's sourceURL becomes its new place and
+    // the move happens there; when not (or when the row has no path), its key is reported
+    // and the row is left as it was.
+    ExecutionReport renameFiles(const QStringList &keys, RenameFileDetails &details,
+                                RenameBookmarks &bookmarks) const;
+    // Moves one file to `newName` plus its own extension (the text after the last dot of
+    // its name, if any) in its folder, and sets the row's State to "Success" or "Failed".
+    // Never replaces anything: an existing target, or a target name that cannot be one file
+    // name in that folder ("", ".", "..", a '/' or NUL, too long), is "Failed" and nothing
+    // moves. sourceURL is left as it was, also after a move. An absent URL, or one without a
+    // path, does nothing.
+    void renameFile(const std::optional<QUrl> &sourceURL, const QString &newName,
+                    RenameFileDetails &details, const QString &key) const;
+
+    // Where the file bookmarked under `path` is now; nothing without a bookmark or when the
+    // file is gone. A found file's bookmark is stored anew under its present path.
+    std::optional<QUrl> restoreBookmark(const QString &path, RenameBookmarks &bookmarks) const;
+    // Stores a bookmark of the URL's file under its path; nothing when the URL has no path
+    // or names nothing that can be examined.
+    void saveBookmark(const QUrl &url, RenameBookmarks &bookmarks) const;
+
+private:
+    BRRenameViewDelegate *m_delegate = nullptr;
+};

@@ -1,0 +1,313 @@
+#include "BRRenameFormat.h"
+#include "FileMover.h"
+#include "TestDir.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <cerrno>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
+}
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+// Every entry below the folder, with each file's content: what a failed step must not change.
+QStringList treeOf(const QString &root)
+{
+    QStringList tree;
+    const QDir dir(root);
+    const auto entries = dir.entryInfoList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    for (const QFileInfo &entry : entries) {
+        tree.append(entry.fileName() + u'=' + QString::fromUtf8(contentOf(entry.filePath())));
+        if (entry.isDir() && !entry.isSymLink())
+            tree.append(treeOf(entry.filePath())
+                            .replaceInStrings(QRegularExpression(u"^"_s), entry.fileName() + u'/'));
+    }
+    return tree;
+}
+
+// A folder of listed files, as the rename screen holds them: each file's content is its
+// own name, so a file that took another's place would show.
+struct Listing
+{
+    TestDir dir;
+    BRRenameFormat format;
+    RenameFileDetails details;
+    RenameBookmarks bookmarks;
+    QStringList keys;
+
+    void list(const QString &relativePath, const std::optional<QString> &newName = QString())
+    {
+        const QString path = dir.filePath(relativePath);
+        if (!QFileInfo::exists(path))
+            dir.createFile(relativePath, relativePath.toUtf8());
+        const QUrl url = QUrl::fromLocalFile(path);
+        const QString key = url.fileName();
+        format.saveBookmark(url, bookmarks);
+        details.insert(key, RenameRecord{url, newName, QString(), QString()});
+        keys.append(key);
+    }
+    ExecutionReport run() { return format.renameFiles(keys, details, bookmarks); }
+    QStringList states() const
+    {
+        QStringList states;
+        for (const QString &key : keys)
+            states.append(details.value(key).State);
+        return states;
+    }
+    QString content(const QString &relativePath) const
+    {
+        return QString::fromUtf8(contentOf(dir.filePath(relativePath)));
+    }
+};
+
+} // namespace
+
+class tst_RenameExecution : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void movesEveryFileUnderItsRuleName()
+    {
+        Listing l;
+        for (const QString &name : {u"a.jpg"_s, u"b.jpg"_s, u"c.png"_s})
+            l.list(name);
+        QVERIFY(l.format.changeFullFileNames(u"1"_s, u"Trip"_s, l.details, l.keys,
+                                             RenameTexts::afterName));
+        QCOMPARE(l.run().missingKeys, QStringList());
+        QCOMPARE(l.states(), QStringList(3, RenameTexts::success));
+        QCOMPARE(treeOf(l.dir.path()),
+                 (QStringList{u"Trip1.jpg=a.jpg"_s, u"Trip2.jpg=b.jpg"_s, u"Trip3.png=c.png"_s}));
+        // The rows still name where the files were; the screen drops them after a success.
+        QCOMPARE(l.details.value(u"a.jpg"_s).sourceURL.fileName(), u"a.jpg"_s);
+    }
+
+    // Nothing is replaced: a taken name fails that row alone, including a name that an
+    // earlier row of the same run has just taken, and one taken after the list was made.
+    void takenNamesFailAndTheRestGoOn_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<QStringList>("present");
+        QTest::addColumn<QStringList>("states");
+        QTest::addColumn<QStringList>("tree");
+        const QString ok = RenameTexts::success;
+        const QString failed = RenameTexts::failed;
+        QTest::newRow("some failed")
+            << QStringList{u"a.jpg"_s, u"b.jpg"_s} << QStringList{u"a1"_s, u"a2"_s}
+            << QStringList{u"a1.jpg"_s} << QStringList{failed, ok}
+            << QStringList{u"a.jpg=a.jpg"_s, u"a1.jpg=present"_s, u"a2.jpg=b.jpg"_s};
+        QTest::newRow("none moved")
+            << QStringList{u"a.jpg"_s, u"b.jpg"_s} << QStringList{u"x"_s, u"y"_s}
+            << QStringList{u"x.jpg"_s, u"y.jpg"_s} << QStringList{failed, failed}
+            << QStringList{u"a.jpg=a.jpg"_s, u"b.jpg=b.jpg"_s, u"x.jpg=present"_s,
+                           u"y.jpg=present"_s};
+        QTest::newRow("two rows, one name")
+            << QStringList{u"a.1.txt"_s, u"a.2.txt"_s} << QStringList{u"a-x"_s, u"a-x"_s}
+            << QStringList() << QStringList{ok, failed}
+            << QStringList{u"a-x.txt=a.1.txt"_s, u"a.2.txt=a.2.txt"_s};
+        QTest::newRow("the name it has")
+            << QStringList{u"a.jpg"_s} << QStringList{u"a"_s} << QStringList()
+            << QStringList{failed} << QStringList{u"a.jpg=a.jpg"_s};
+        QTest::newRow("a folder of that name")
+            << QStringList{u"a.jpg"_s} << QStringList{u"Trip"_s} << QStringList{u"Trip.jpg/"_s}
+            << QStringList{failed} << QStringList{u"a.jpg=a.jpg"_s, u"Trip.jpg=<none>"_s};
+    }
+    void takenNamesFailAndTheRestGoOn()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(QStringList, names);
+        QFETCH(QStringList, present);
+        QFETCH(QStringList, states);
+        QFETCH(QStringList, tree);
+        Listing l;
+        for (qsizetype i = 0; i < files.size(); ++i)
+            l.list(files.at(i), names.at(i));
+        for (const QString &taken : present) {
+            if (taken.endsWith(u'/'))
+                l.dir.createDir(taken);
+            else
+                l.dir.createFile(taken, "present");
+        }
+        QCOMPARE(l.run().missingKeys, QStringList());
+        QCOMPARE(l.states(), states);
+        QCOMPARE(treeOf(l.dir.path()), sorted(tree));
+    }
+
+    // Names the file system could not hold as one name in the folder are refused before
+    // any move; the nearest names that it can hold are taken as they stand.
+    void targetNames_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("newName");
+        QTest::addColumn<QString>("moved"); // "" when the name is refused
+        const QString e = u"\u00e9"_s;      // two bytes in UTF-8
+        QTest::newRow("slash") << u"notes"_s << u"sub/x"_s << QString();
+        QTest::newRow("dot") << u"notes"_s << u"."_s << QString();
+        QTest::newRow("dot dot") << u"notes"_s << u".."_s << QString();
+        QTest::newRow("NUL") << u"notes"_s << u"a"_s + QChar(u'\0') + u"b"_s << QString();
+        QTest::newRow("lone surrogate") << u"notes"_s << QString(QChar(0xd800)) << QString();
+        QTest::newRow("256 bytes") << u"a.jpg"_s << QString(252, u'n') << QString();
+        QTest::newRow("256 bytes, two a letter") << u"notes"_s << e.repeated(128) << QString();
+        QTest::newRow("255 bytes")
+            << u"a.jpg"_s << QString(251, u'n') << QString(251, u'n') + u".jpg"_s;
+        QTest::newRow("255 bytes, two a letter")
+            << u"notes"_s << e.repeated(127) + u"n"_s << e.repeated(127) + u"n"_s;
+        QTest::newRow("no extension, a dot typed") << u"notes"_s << u"v1.2"_s << u"v1.2"_s;
+        QTest::newRow("a dot on a file with an extension") << u"a.jpg"_s << u"."_s << u"..jpg"_s;
+        QTest::newRow("hidden source keeps its suffix")
+            << u".profile"_s << u"p"_s << u"p.profile"_s;
+        QTest::newRow("dot at the end") << u"draft."_s << u"final"_s << u"final"_s;
+    }
+    void targetNames()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, newName);
+        QFETCH(QString, moved);
+        Listing l;
+        l.dir.createDir(u"sub"_s);
+        l.list(file, newName);
+        const QStringList before = treeOf(l.dir.path());
+        QCOMPARE(l.run().missingKeys, QStringList());
+        if (moved.isEmpty()) {
+            QCOMPARE(l.states(), QStringList{RenameTexts::failed});
+            QCOMPARE(treeOf(l.dir.path()), before);
+        } else {
+            QCOMPARE(l.states(), QStringList{RenameTexts::success});
+            QCOMPARE(treeOf(l.dir.path()), sorted({moved + u'=' + file, u"sub=<none>"_s}));
+        }
+    }
+
+    // Rows with no name are not attempted, nor reported, even when their file is gone.
+    void rowsWithoutANameAreLeftAlone()
+    {
+        Listing l;
+        l.list(u"a.jpg"_s, QString());
+        l.list(u"b.jpg"_s, std::nullopt);
+        l.list(u"c.jpg"_s, QString());
+        l.dir.removeFile(u"c.jpg"_s);
+        QCOMPARE(l.run().missingKeys, QStringList());
+        QCOMPARE(l.states(), QStringList(3, QString()));
+        QCOMPARE(treeOf(l.dir.path()), (QStringList{u"a.jpg=a.jpg"_s, u"b.jpg=b.jpg"_s}));
+    }
+
+    void aFolderIsRenamedWithItsSuffix()
+    {
+        Listing l;
+        l.dir.createFile(u"photos.2019/in.jpg"_s, "in");
+        l.dir.createFile(u"Album/in.jpg"_s, "in");
+        l.list(u"photos.2019"_s, u"Trip1"_s);
+        l.list(u"Album"_s, u"Trip2"_s);
+        l.run();
+        QCOMPARE(l.states(), QStringList(2, RenameTexts::success));
+        QCOMPARE(treeOf(l.dir.path()),
+                 (QStringList{u"Trip1.2019=<none>"_s, u"Trip1.2019/in.jpg=in"_s, u"Trip2=<none>"_s,
+                              u"Trip2/in.jpg=in"_s}));
+    }
+
+    // A file deleted after listing is reported and its row left as it was; the file that
+    // then takes its inode is not mistaken for it.
+    void aDeletedFileIsReportedAndTheRunGoesOn()
+    {
+        Listing l;
+        for (const QString &name : {u"a.jpg"_s, u"b.jpg"_s, u"c.png"_s})
+            l.list(name, u"new-"_s + name.left(1));
+        l.dir.removeFile(u"b.jpg"_s);
+        l.dir.createFile(u"newcomer.jpg"_s, "newcomer");
+        QCOMPARE(l.run().missingKeys, QStringList{u"b.jpg"_s});
+        QCOMPARE(l.states(), (QStringList{RenameTexts::success, QString(), RenameTexts::success}));
+        QCOMPARE(treeOf(l.dir.path()), (QStringList{u"new-a.jpg=a.jpg"_s, u"new-c.png=c.png"_s,
+                                                    u"newcomer.jpg=newcomer"_s}));
+    }
+
+    void aMovedFileIsRenamedWhereItIsNow_data()
+    {
+        QTest::addColumn<QString>("movedTo");
+        QTest::newRow("renamed in place") << u"Pictures/z.jpg"_s;
+        QTest::newRow("into a folder beside it") << u"Pictures/Trip/a.jpg"_s;
+        QTest::newRow("into a folder below that") << u"Pictures/Trip/Day 1/a.jpg"_s;
+        QTest::newRow("into a folder beside its folder") << u"Archive/a.jpg"_s;
+    }
+    void aMovedFileIsRenamedWhereItIsNow()
+    {
+        QFETCH(QString, movedTo);
+        Listing l;
+        l.dir.createDir(u"Pictures/Trip/Day 1"_s);
+        l.dir.createDir(u"Archive"_s);
+        l.list(u"Pictures/a.jpg"_s, u"Trip1"_s);
+        QVERIFY(QDir().rename(l.dir.filePath(u"Pictures/a.jpg"_s), l.dir.filePath(movedTo)));
+        QCOMPARE(l.run().missingKeys, QStringList());
+        QCOMPARE(l.states(), QStringList{RenameTexts::success});
+        const QString folder = QFileInfo(l.dir.filePath(movedTo)).path();
+        QCOMPARE(contentOf(folder + u"/Trip1.jpg"_s), QByteArray("Pictures/a.jpg"));
+        QCOMPARE(l.details.value(u"a.jpg"_s).sourceURL,
+                 QUrl::fromLocalFile(l.dir.filePath(movedTo)));
+        QVERIFY(l.bookmarks.contains(l.dir.filePath(movedTo)));
+    }
+
+    // Whatever the source, an existing target stays, and so does the source.
+    void fileMoverNeverReplaces_data()
+    {
+        QTest::addColumn<bool>("byLink");
+        QTest::addColumn<bool>("sourceIsFolder");
+        QTest::addColumn<QString>("target");
+        for (const bool byLink : {false, true}) {
+            const char *way = byLink ? "by link" : "in one step";
+            for (const bool folder : {false, true}) {
+                const char *what = folder ? "folder" : "file";
+                QTest::addRow("%s, %s onto a file", way, what) << byLink << folder << u"file"_s;
+                QTest::addRow("%s, %s onto an empty folder", way, what)
+                    << byLink << folder << u"empty/"_s;
+                QTest::addRow("%s, %s onto a dangling link", way, what)
+                    << byLink << folder << u"link"_s;
+            }
+        }
+    }
+    void fileMoverNeverReplaces()
+    {
+        QFETCH(bool, byLink);
+        QFETCH(bool, sourceIsFolder);
+        QFETCH(QString, target);
+        TestDir dir;
+        const QString source =
+            sourceIsFolder ? dir.createDir(u"source"_s) : dir.createFile(u"source"_s, "source");
+        dir.createFile(u"file"_s, "file");
+        dir.createDir(u"empty"_s);
+        QVERIFY(QFile::link(dir.filePath(u"nowhere"_s), dir.filePath(u"link"_s)));
+        const QStringList before = treeOf(dir.path());
+        const QString targetPath = dir.filePath(target);
+        const auto result = byLink ? FileMover::moveByLink(source, targetPath)
+                                   : FileMover::move(source, targetPath);
+        QVERIFY(!result);
+        QVERIFY(result.error != 0);
+        QVERIFY(!result.errorText.isEmpty());
+        QCOMPARE(treeOf(dir.path()), before);
+    }
+
+    void fileMoverMovesByLink()
+    {
+        TestDir dir;
+        const QString source = dir.createFile(u"a.jpg"_s, "a");
+        QVERIFY(FileMover::moveByLink(source, dir.filePath(u"b.jpg"_s)));
+        QCOMPARE(treeOf(dir.path()), QStringList{u"b.jpg=a"_s});
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_RenameExecution)
+#include "tst_renameexecution.moc"
