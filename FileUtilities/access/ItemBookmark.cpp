@@ -128,38 +128,87 @@ std::optional<ItemBookmark> ItemBookmark::fromData(const QByteArray &data)
     return ItemBookmark(path, identity);
 }
 
-std::optional<ItemBookmark::Resolved> ItemBookmark::resolve() const
+std::optional<ItemBookmark::Resolved> ItemBookmark::resolve(SearchCache *cache) const
 {
-    const auto here = identityAt(AT_FDCWD, QFile::encodeName(m_path).constData());
-    if (here && matches(*here))
-        return Resolved{m_path, false};
-    if (auto found = searchNear())
+    if (auto here = confirmedAt(QFile::encodeName(m_path)))
+        return Resolved{*here, false};
+    if (auto found = searchNear(cache))
         return Resolved{*found, true};
     return std::nullopt;
 }
 
-// First below the item's own folder (or, if that is gone too, its nearest surviving
-// ancestor), which finds a rename in place and a move into a folder inside; then below
-// that folder's parent, which finds a move into a folder beside it.
-std::optional<QString> ItemBookmark::searchNear() const
+std::optional<QString> ItemBookmark::confirmedAt(const QByteArray &path) const
+{
+    const auto identity = identityAt(AT_FDCWD, path.constData());
+    if (!identity || !matches(*identity))
+        return std::nullopt;
+    // A name that is not valid UTF-8 cannot be given back exactly.
+    QString decoded = QFile::decodeName(path);
+    if (QFile::encodeName(decoded) != path)
+        return std::nullopt;
+    return decoded;
+}
+
+std::optional<QString> ItemBookmark::searchNear(SearchCache *cache) const
 {
     QByteArray folder = parentOf(QFile::encodeName(m_path));
     while (folder != "/" && !isFolder(folder))
         folder = parentOf(folder);
-    int budget = searchBudget;
-    if (auto found = searchBelow(folder, QByteArray(), budget))
-        return found;
-    if (folder == "/" || budget <= 0)
+
+    std::optional<QByteArray> found;
+    const auto stopAtMatch = [&](const QByteArray &path, const Identity &identity) {
+        if (!matches(identity))
+            return false;
+        found = path;
+        return true;
+    };
+    if (!cache) {
+        walkArea(folder, stopAtMatch);
+        return found ? confirmedAt(*found) : std::nullopt;
+    }
+
+    const std::pair areaKey{folder, m_identity.device};
+    auto area = cache->m_areas.find(areaKey);
+    if (area == cache->m_areas.end()) {
+        SearchCache::Area entries;
+        walkArea(folder, [&entries](const QByteArray &path, const Identity &identity) {
+            const std::pair key{identity.device, identity.inode};
+            if (!entries.contains(key))
+                entries.insert(key, path);
+            return false;
+        });
+        area = cache->m_areas.insert(areaKey, std::move(entries));
+    }
+    const auto entry = area->constFind(std::pair{m_identity.device, m_identity.inode});
+    if (entry == area->constEnd())
         return std::nullopt;
-    return searchBelow(parentOf(folder), folder, budget);
+    if (auto confirmed = confirmedAt(*entry))
+        return confirmed;
+    // The area changed since it was read: read it again, and search it as if uncached.
+    cache->m_areas.erase(area);
+    walkArea(folder, stopAtMatch);
+    return found ? confirmedAt(*found) : std::nullopt;
+}
+
+// First below the item's own folder (or, if that is gone too, its nearest surviving
+// ancestor), which finds a rename in place and a move into a folder inside; then below
+// that folder's parent, which finds a move into a folder beside it. One budget for both.
+bool ItemBookmark::walkArea(const QByteArray &folder, const Visit &visit) const
+{
+    int budget = searchBudget;
+    if (walkBelow(folder, QByteArray(), budget, visit))
+        return true;
+    if (folder == "/" || budget <= 0)
+        return false;
+    return walkBelow(parentOf(folder), folder, budget, visit);
 }
 
 // Breadth-first, each folder's entries in byte order of their names, so that the nearest
-// match is found first and two searches of one tree agree. Files and folders are looked at
+// match comes first and two searches of one tree agree. Files and folders are looked at
 // alike: an inode names one item on its device, so a folder's bookmark can match no file.
-// Only folders on the item's own device are entered; `skip` is a subtree already searched.
-std::optional<QString> ItemBookmark::searchBelow(const QByteArray &root, const QByteArray &skip,
-                                                 int &budget) const
+// Only folders on the item's own device are entered; `skip` is a subtree already walked.
+bool ItemBookmark::walkBelow(const QByteArray &root, const QByteArray &skip, int &budget,
+                             const Visit &visit) const
 {
     std::vector<QByteArray> level{root};
     for (int depth = 0; depth < searchDepth && !level.empty(); ++depth) {
@@ -178,18 +227,13 @@ std::optional<QString> ItemBookmark::searchBelow(const QByteArray &root, const Q
             const int descriptor = ::dirfd(dir.get());
             for (const QByteArray &name : names) {
                 if (--budget < 0)
-                    return std::nullopt;
+                    return false;
                 const auto identity = identityAt(descriptor, name.constData());
                 if (!identity)
                     continue;
                 const QByteArray path = childOf(folder, name.constData());
-                if (matches(*identity)) {
-                    // A name that is not valid UTF-8 cannot be given back exactly.
-                    const QString decoded = QFile::decodeName(path);
-                    if (QFile::encodeName(decoded) != path)
-                        return std::nullopt;
-                    return decoded;
-                }
+                if (visit(path, *identity))
+                    return true;
                 if (identity->type == S_IFDIR && identity->device == m_identity.device &&
                     path != skip)
                     next.push_back(path);
@@ -197,5 +241,5 @@ std::optional<QString> ItemBookmark::searchBelow(const QByteArray &root, const Q
         }
         level = std::move(next);
     }
-    return std::nullopt;
+    return false;
 }

@@ -14,9 +14,12 @@
 
 namespace {
 
+// strerror_r (the GNU form, which gives the text it chose) since moves run on worker threads.
 FileMover::Result failure(int error)
 {
-    return FileMover::Result{false, error, QString::fromLocal8Bit(std::strerror(error))};
+    char buffer[256] = {};
+    const char *text = ::strerror_r(error, buffer, sizeof buffer);
+    return FileMover::Result{false, error, QString::fromLocal8Bit(text)};
 }
 
 // The kernel or the file system does not know RENAME_NOREPLACE.

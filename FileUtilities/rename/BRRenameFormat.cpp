@@ -1,7 +1,6 @@
 #include "BRRenameFormat.h"
 
 #include "FileMover.h"
-#include "ItemBookmark.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -166,6 +165,7 @@ ExecutionReport BRRenameFormat::renameFiles(const QStringList &keys, RenameFileD
                                             RenameBookmarks &bookmarks) const
 {
     ExecutionReport report;
+    ItemBookmark::SearchCache searches;
     for (const QString &key : keys) {
         const auto record = details.constFind(key);
         if (record == details.constEnd() || !record->destinationURL ||
@@ -182,7 +182,7 @@ ExecutionReport BRRenameFormat::renameFiles(const QStringList &keys, RenameFileD
             renameFile(sourceURL, newName, details, key);
             continue;
         }
-        const auto found = restoreBookmark(path, bookmarks);
+        const auto found = restoreBookmark(path, bookmarks, &searches);
         if (!found) {
             report.missingKeys.append(key);
             continue;
@@ -224,13 +224,19 @@ void BRRenameFormat::renameFile(const std::optional<QUrl> &sourceURL, const QStr
 std::optional<QUrl> BRRenameFormat::restoreBookmark(const QString &path,
                                                     RenameBookmarks &bookmarks) const
 {
+    return restoreBookmark(path, bookmarks, nullptr);
+}
+
+std::optional<QUrl> BRRenameFormat::restoreBookmark(const QString &path, RenameBookmarks &bookmarks,
+                                                    ItemBookmark::SearchCache *cache) const
+{
     const auto data = bookmarks.constFind(path);
     if (data == bookmarks.constEnd())
         return std::nullopt;
     const auto bookmark = ItemBookmark::fromData(*data);
     if (!bookmark)
         return std::nullopt;
-    const auto resolved = bookmark->resolve();
+    const auto resolved = bookmark->resolve(cache);
     if (!resolved)
         return std::nullopt;
     const QUrl url = QUrl::fromLocalFile(resolved->path);

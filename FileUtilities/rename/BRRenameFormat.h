@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ItemBookmark.h"
 #include "RenameRecord.h"
 
 #include <QString>
@@ -108,5 +109,10 @@ public:
     void saveBookmark(const QUrl &url, RenameBookmarks &bookmarks) const;
 
 private:
+    // One rename run shares what its bookmark searches read, so that a whole folder of
+    // missing files costs one walk of their surroundings.
+    std::optional<QUrl> restoreBookmark(const QString &path, RenameBookmarks &bookmarks,
+                                        ItemBookmark::SearchCache *cache) const;
+
     BRRenameViewDelegate *m_delegate = nullptr;
 };

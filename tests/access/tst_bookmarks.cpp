@@ -148,6 +148,25 @@ private Q_SLOTS:
         QCOMPARE(resolved->stale, true);
     }
 
+    // Resolves of one batch share what they read; a place read earlier that no longer holds
+    // the item makes the search run again.
+    void aSharedSearchFollowsLaterMoves()
+    {
+        TestDir dir;
+        const QString a = dir.createFile(u"Pictures/a.jpg"_s, "a");
+        const QString b = dir.createFile(u"Pictures/b.jpg"_s, "b");
+        const auto bookmarkA = ItemBookmark::forPath(a);
+        const auto bookmarkB = ItemBookmark::forPath(b);
+        QVERIFY(QDir().rename(dir.filePath(u"Pictures"_s), dir.filePath(u"Trip"_s)));
+
+        ItemBookmark::SearchCache cache;
+        QCOMPARE(bookmarkA->resolve(&cache)->path, dir.filePath(u"Trip/a.jpg"_s));
+        QVERIFY(QDir().rename(dir.filePath(u"Trip/b.jpg"_s), dir.filePath(u"Trip/c.jpg"_s)));
+        QCOMPARE(bookmarkB->resolve(&cache)->path, dir.filePath(u"Trip/c.jpg"_s));
+        QVERIFY(QFile::remove(dir.filePath(u"Trip/c.jpg"_s)));
+        QCOMPARE(bookmarkB->resolve(&cache).has_value(), false);
+    }
+
     // The freed inode goes to the next file made nearby; that file is someone else's.
     void nothingForADeletedFileEvenWhenItsInodeIsReused()
     {

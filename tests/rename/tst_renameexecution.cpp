@@ -261,6 +261,20 @@ private Q_SLOTS:
         QVERIFY(l.bookmarks.contains(l.dir.filePath(movedTo)));
     }
 
+    void aFolderMovedAwayIsFollowed()
+    {
+        Listing l;
+        for (const QString &name : {u"a.jpg"_s, u"b.jpg"_s, u"c.png"_s})
+            l.list(u"Pictures/"_s + name, u"new-"_s + name.left(1));
+        QVERIFY(QDir().rename(l.dir.filePath(u"Pictures"_s), l.dir.filePath(u"Old"_s)));
+        QCOMPARE(l.run().missingKeys, QStringList());
+        QCOMPARE(l.states(), QStringList(3, RenameTexts::success));
+        QCOMPARE(
+            treeOf(l.dir.path()),
+            (QStringList{u"Old=<none>"_s, u"Old/new-a.jpg=Pictures/a.jpg"_s,
+                         u"Old/new-b.jpg=Pictures/b.jpg"_s, u"Old/new-c.png=Pictures/c.png"_s}));
+    }
+
     // Whatever the source, an existing target stays, and so does the source.
     void fileMoverNeverReplaces_data()
     {
