@@ -96,8 +96,8 @@ public:
     // its name, if any) in its folder, and sets the row's State to "Success" or "Failed".
     // Never replaces anything: an existing target, or a target name that cannot be one file
     // name in that folder ("", ".", "..", a '/' or NUL, too long), is "Failed" and nothing
-    // moves. sourceURL is left as it was, also after a move. An absent URL, or one without a
-    // path, does nothing.
+    // moves. sourceURL is left as it was, also after a move. An absent URL, one without a
+    // path, or a key without a record does nothing.
     void renameFile(const std::optional<QUrl> &sourceURL, const QString &newName,
                     RenameFileDetails &details, const QString &key) const;
 
