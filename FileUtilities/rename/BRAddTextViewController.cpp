@@ -1,0 +1,89 @@
+#include "BRAddTextViewController.h"
+
+#include "BRRenameDisableVibrancePopUpButton.h"
+#include "BRRenameRoundedTextField.h"
+#include "BRRenameTabViewController.h"
+#include "BRRenameViewDelegate.h"
+#include "RenameNotificationCenter.h"
+#include "RenamePanelControls.h"
+#include "RenameRecord.h"
+
+#include <QBoxLayout>
+
+BRAddTextViewController::BRAddTextViewController(RenameNotificationCenter *center, QWidget *parent)
+    : QWidget(parent),
+      m_formatOption(RenamePanelControls::makeRuleSwitch(QStringLiteral("formatOption"),
+                                                         RenameTexts::addTextToExistingNames,
+                                                         otherRuleTitle(), this)),
+      m_addTextField(RenamePanelControls::makeTextField(QStringLiteral("addTextField"),
+                                                        QStringLiteral("Add Text"), this)),
+      m_whereOptionButton(RenamePanelControls::makeWherePopup(this))
+{
+    setObjectName(QStringLiteral("BRAddTextViewController"));
+    m_whereOptionButton->setToolTip(QStringLiteral("Where the text goes"));
+    setAttributes();
+
+    QBoxLayout *layout = RenamePanelControls::makePanelLayout(this);
+    layout->addWidget(m_formatOption);
+    layout->addWidget(m_addTextField, 1);
+    layout->addWidget(m_whereOptionButton);
+
+    connect(m_addTextField, &QLineEdit::textEdited, this,
+            [this] { controlTextDidChange(m_addTextField); });
+    connect(m_whereOptionButton, &QComboBox::activated, this,
+            &BRAddTextViewController::whereOptionAction);
+    connect(m_formatOption, &QComboBox::activated, this,
+            &BRAddTextViewController::formatOptionAction);
+    if (center)
+        connect(center, &RenameNotificationCenter::clearText, this,
+                &BRAddTextViewController::clearText);
+}
+
+void BRAddTextViewController::setAttributes()
+{
+    RenamePanelControls::applyFieldAttributes(m_addTextField);
+    RenamePanelControls::applyRuleSwitchAttributes(m_formatOption);
+}
+
+void BRAddTextViewController::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_addTextField->setFocus();
+}
+
+void BRAddTextViewController::controlTextDidChange(QLineEdit *field)
+{
+    // Too long a text takes back the keystroke: the field returns to what was last sent.
+    if (field && field->text().size() > TEXT_FIELD_LIMIT)
+        m_addTextField->setText(m_addText);
+    callDelegate();
+}
+
+void BRAddTextViewController::whereOptionAction()
+{
+    callDelegate();
+}
+
+void BRAddTextViewController::callDelegate()
+{
+    m_addText = m_addTextField->text();
+    if (m_delegate && m_whereOptionButton->currentIndex() >= 0)
+        m_delegate->renameUsingAddTextOption(m_addText, m_whereOptionButton->currentText());
+}
+
+void BRAddTextViewController::formatOptionAction()
+{
+    auto *tabs = qobject_cast<BRRenameTabViewController *>(parentWidget());
+    if (!tabs || m_formatOption->currentText() != otherRuleTitle())
+        return;
+    m_addTextField->setText(QString());
+    tabs->setSelectedIndex(BRRenameTabViewController::changeFileNameIndex);
+    m_formatOption->setCurrentIndex(0);
+    if (m_delegate)
+        m_delegate->clearDestinationFileNames();
+}
+
+void BRAddTextViewController::clearText()
+{
+    m_addTextField->setText(QString());
+}

@@ -1,0 +1,111 @@
+#include "BRChangeFileNameViewController.h"
+
+#include "BRRenameDisableVibrancePopUpButton.h"
+#include "BRRenameRoundedTextField.h"
+#include "BRRenameTabViewController.h"
+#include "BRRenameViewDelegate.h"
+#include "RenameNotificationCenter.h"
+#include "RenamePanelControls.h"
+#include "RenameRecord.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QRegularExpressionValidator>
+
+BRChangeFileNameViewController::BRChangeFileNameViewController(RenameNotificationCenter *center,
+                                                               QWidget *parent)
+    : QWidget(parent),
+      m_formatOptionButton(RenamePanelControls::makeRuleSwitch(QStringLiteral("formatOptionButton"),
+                                                               RenameTexts::changeFullFileNames,
+                                                               otherRuleTitle(), this)),
+      m_newNameTextField(RenamePanelControls::makeTextField(
+          QStringLiteral("newNameTextField"), QStringLiteral("Enter New Name"), this)),
+      m_numberTextField(RenamePanelControls::makeTextField(QStringLiteral("numberTextField"),
+                                                           QStringLiteral("1"), this)),
+      m_whereOptionButton(RenamePanelControls::makeWherePopup(this))
+{
+    setObjectName(QStringLiteral("BRChangeFileNameViewController"));
+    m_numberTextField->setAccessibleName(QStringLiteral("Start Number"));
+    m_numberTextField->setText(QStringLiteral("1"));
+    m_numberTextField->setFixedWidth(84);
+    // Digits, with a sign for a count that starts below zero; the rule reads the rest.
+    m_numberTextField->setValidator(new QRegularExpressionValidator(
+        QRegularExpression(QStringLiteral("-?[0-9]*")), m_numberTextField));
+    m_whereOptionButton->setToolTip(QStringLiteral("Where the number goes"));
+    setAttributes();
+
+    QBoxLayout *layout = RenamePanelControls::makePanelLayout(this);
+    layout->addWidget(m_formatOptionButton);
+    layout->addWidget(m_newNameTextField, 1);
+    layout->addSpacing(4);
+    layout->addWidget(RenamePanelControls::makeCaption(QStringLiteral("starting at"), this));
+    layout->addWidget(m_numberTextField);
+    layout->addWidget(m_whereOptionButton);
+
+    connect(m_newNameTextField, &QLineEdit::textEdited, this,
+            [this] { controlTextDidChange(m_newNameTextField); });
+    connect(m_numberTextField, &QLineEdit::textEdited, this,
+            [this] { controlTextDidChange(m_numberTextField); });
+    connect(m_whereOptionButton, &QComboBox::activated, this,
+            &BRChangeFileNameViewController::whereOptionAction);
+    connect(m_formatOptionButton, &QComboBox::activated, this,
+            &BRChangeFileNameViewController::formatOptionAction);
+    if (center)
+        connect(center, &RenameNotificationCenter::clearText, this,
+                &BRChangeFileNameViewController::clearText);
+}
+
+void BRChangeFileNameViewController::setAttributes()
+{
+    RenamePanelControls::applyFieldAttributes(m_newNameTextField);
+    RenamePanelControls::applyFieldAttributes(m_numberTextField);
+    RenamePanelControls::applyRuleSwitchAttributes(m_formatOptionButton);
+}
+
+void BRChangeFileNameViewController::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_newNameTextField->setFocus();
+}
+
+void BRChangeFileNameViewController::controlTextDidChange(QLineEdit *field)
+{
+    // Too long a text takes back the keystroke, always in the rule text: the number
+    // field's own overlong text stays and simply fails to read as a number.
+    if (field && field->text().size() > TEXT_FIELD_LIMIT)
+        m_newNameTextField->setText(m_newNameText);
+    callDelegate();
+}
+
+void BRChangeFileNameViewController::whereOptionAction()
+{
+    callDelegate();
+}
+
+void BRChangeFileNameViewController::callDelegate()
+{
+    m_newNameText = m_newNameTextField->text();
+    m_numberText = m_numberTextField->text();
+    if (m_delegate && m_whereOptionButton->currentIndex() >= 0)
+        m_delegate->renameUsingOption(m_newNameText, m_numberText,
+                                      m_whereOptionButton->currentText());
+}
+
+void BRChangeFileNameViewController::formatOptionAction()
+{
+    auto *tabs = qobject_cast<BRRenameTabViewController *>(parentWidget());
+    if (!tabs || m_formatOptionButton->currentText() != otherRuleTitle())
+        return;
+    m_newNameTextField->setText(QString());
+    tabs->setSelectedIndex(BRRenameTabViewController::addTextIndex);
+    // Ready for the way back.
+    m_formatOptionButton->setCurrentIndex(0);
+    if (m_delegate)
+        m_delegate->clearDestinationFileNames();
+}
+
+void BRChangeFileNameViewController::clearText()
+{
+    m_newNameTextField->setText(QString());
+    m_numberTextField->setText(QStringLiteral("1"));
+}

@@ -1,0 +1,90 @@
+#include "RenamePanelControls.h"
+
+#include "BRColorHelper.h"
+#include "BRRenameDisableVibrancePopUpButton.h"
+#include "BRRenameRoundedTextField.h"
+#include "RenameFont.h"
+#include "RenameRecord.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+BRRenameDisableVibrancePopUpButton *RenamePanelControls::makeRuleSwitch(const QString &objectName,
+                                                                        const QString &ownRule,
+                                                                        const QString &otherRule,
+                                                                        QWidget *parent)
+{
+    auto *ruleSwitch = new BRRenameDisableVibrancePopUpButton(parent);
+    ruleSwitch->setObjectName(objectName);
+    ruleSwitch->setAccessibleName(QStringLiteral("Rule"));
+    ruleSwitch->addItem(ownRule);
+    ruleSwitch->addItem(otherRule);
+    ruleSwitch->setFont(RenameFont::helveticaNeue(15));
+    ruleSwitch->setMinimumHeight(fieldHeight);
+    ruleSwitch->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    ruleSwitch->setCursor(Qt::PointingHandCursor);
+    return ruleSwitch;
+}
+
+BRRenameDisableVibrancePopUpButton *RenamePanelControls::makeWherePopup(QWidget *parent)
+{
+    auto *where = new BRRenameDisableVibrancePopUpButton(parent);
+    where->setObjectName(QStringLiteral("whereOptionButton"));
+    where->setAccessibleName(QStringLiteral("Where"));
+    where->addItem(RenameTexts::afterName);
+    where->addItem(RenameTexts::beforeName);
+    where->setFont(RenameFont::helveticaNeue(15));
+    where->setMinimumHeight(fieldHeight);
+    where->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    where->setCursor(Qt::PointingHandCursor);
+    return where;
+}
+
+BRRenameRoundedTextField *RenamePanelControls::makeTextField(const QString &objectName,
+                                                             const QString &placeholder,
+                                                             QWidget *parent)
+{
+    auto *field = new BRRenameRoundedTextField(parent);
+    field->setObjectName(objectName);
+    field->setAccessibleName(placeholder);
+    field->setPlaceholderText(placeholder);
+    field->setFixedHeight(fieldHeight);
+    field->setAttribute(Qt::WA_MacShowFocusRect, false);
+    return field;
+}
+
+QLabel *RenamePanelControls::makeCaption(const QString &text, QWidget *parent)
+{
+    auto *caption = new QLabel(text, parent);
+    caption->setFont(RenameFont::helveticaNeue(15));
+    QPalette palette = caption->palette();
+    palette.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.55));
+    caption->setPalette(palette);
+    return caption;
+}
+
+QBoxLayout *RenamePanelControls::makePanelLayout(QWidget *panel)
+{
+    auto *layout = new QHBoxLayout(panel);
+    layout->setContentsMargins(20, 14, 20, 14);
+    layout->setSpacing(10);
+    return layout;
+}
+
+void RenamePanelControls::applyFieldAttributes(QLineEdit *field)
+{
+    // The placeholder takes the field's font; the typed text reads at the same size.
+    field->setFont(RenameFont::helveticaNeue(18));
+    field->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    QPalette palette = field->palette();
+    palette.setColor(QPalette::PlaceholderText, BRColorHelper::color(155, 155, 155, 1.0));
+    field->setPalette(palette);
+}
+
+void RenamePanelControls::applyRuleSwitchAttributes(QComboBox *ruleSwitch)
+{
+    if (ruleSwitch->count() < 2)
+        return;
+    ruleSwitch->setItemData(1, RenameFont::helveticaNeue(15), Qt::FontRole);
+    ruleSwitch->setItemData(1, QColor(Qt::black), Qt::ForegroundRole);
+}
