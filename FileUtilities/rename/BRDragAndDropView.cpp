@@ -1,0 +1,119 @@
+#include "BRDragAndDropView.h"
+
+#include "BRColorHelper.h"
+#include "BRDragAndDropImageView.h"
+#include "BRRenameViewRenameButton.h"
+#include "FileUrlDrag.h"
+#include "OpenPanel.h"
+#include "RenameFont.h"
+#include "RenameNotificationCenter.h"
+
+#include <QDropEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+QLabel *makeLabel(const QString &objectName, const QString &text, const QFont &font,
+                  const QColor &color, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setObjectName(objectName);
+    label->setAlignment(Qt::AlignCenter);
+    label->setFont(font);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, color);
+    label->setPalette(palette);
+    return label;
+}
+
+} // namespace
+
+BRDragAndDropView::BRDragAndDropView(RenameNotificationCenter *center, OpenPanel &openPanel,
+                                     QWidget *parent)
+    : BRImageBackgroundView(QStringLiteral("renamebg"), Tone::Light, parent), m_center(center),
+      m_openPanel(openPanel), m_view(new QWidget(this)),
+      m_imageView(new BRDragAndDropImageView(center, m_view)),
+      m_browseButton(new BRRenameViewRenameButton(m_view))
+{
+    setObjectName(QStringLiteral("dragAndDropView"));
+    setAcceptDrops(true);
+    m_view->setObjectName(QStringLiteral("view"));
+
+    QLabel *headline = makeLabel(QStringLiteral("invitationLabel"),
+                                 QStringLiteral("Drop files and folders here to rename them"),
+                                 RenameFont::helveticaNeue(22, QFont::Medium),
+                                 BRColorHelper::color(38, 44, 56, 1.0), m_view);
+    QLabel *detail =
+        makeLabel(QStringLiteral("detailLabel"),
+                  QStringLiteral("You see every new name before anything on disk changes."),
+                  RenameFont::helveticaNeue(14), BRColorHelper::color(0, 0, 0, 0.5), m_view);
+
+    m_browseButton->setObjectName(QStringLiteral("browseButton"));
+    m_browseButton->setText(QStringLiteral("Choose Files…"));
+    m_browseButton->setFont(RenameFont::helveticaNeue(17));
+    m_browseButton->setMinimumWidth(200);
+    m_browseButton->setCursor(Qt::PointingHandCursor);
+
+    auto *content = new QVBoxLayout(m_view);
+    content->setContentsMargins(0, 0, 0, 0);
+    content->setSpacing(0);
+    content->addWidget(m_imageView, 0, Qt::AlignHCenter);
+    content->addSpacing(28);
+    content->addWidget(headline, 0, Qt::AlignHCenter);
+    content->addSpacing(8);
+    content->addWidget(detail, 0, Qt::AlignHCenter);
+    content->addSpacing(26);
+    content->addWidget(m_browseButton, 0, Qt::AlignHCenter);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addStretch(1);
+    layout->addWidget(m_view, 0, Qt::AlignHCenter);
+    layout->addStretch(1);
+
+    connect(m_browseButton, &QPushButton::clicked, this, &BRDragAndDropView::browseAction);
+}
+
+void BRDragAndDropView::browseAction()
+{
+    OpenPanelRequest request;
+    request.message = QStringLiteral("Choose files to rename");
+    request.canChooseFiles = true;
+    request.canChooseDirectories = true;
+    request.canCreateDirectories = true;
+    request.allowsMultipleSelection = true;
+    request.showsHiddenFiles = false;
+    const QList<QUrl> urls = m_openPanel.runModal(request);
+    if (!urls.isEmpty())
+        announce(urls);
+}
+
+void BRDragAndDropView::announce(const QList<QUrl> &urls)
+{
+    m_fileUrls = urls;
+    if (m_center)
+        Q_EMIT m_center->dragAndDropComplete(m_fileUrls);
+}
+
+void BRDragAndDropView::dragEnterEvent(QDragEnterEvent *event)
+{
+    // The whole view takes the drop; the picture shows that it will.
+    m_imageView->setHighlighted(FileUrlDrag::acceptFiles(event));
+}
+
+void BRDragAndDropView::dragMoveEvent(QDragMoveEvent *event)
+{
+    m_imageView->setHighlighted(FileUrlDrag::acceptFiles(event));
+}
+
+void BRDragAndDropView::dragLeaveEvent(QDragLeaveEvent *)
+{
+    m_imageView->setHighlighted(false);
+}
+
+void BRDragAndDropView::dropEvent(QDropEvent *event)
+{
+    m_imageView->setHighlighted(false);
+    if (FileUrlDrag::acceptFiles(event))
+        announce(FileUrlDrag::fileUrls(event->mimeData()));
+}

@@ -1,0 +1,139 @@
+#include "BRFilePreviewPopoverViewController.h"
+
+#include "BRColorHelper.h"
+#include "BRRenameRoundedTextField.h"
+#include "BRRenameViewDelegate.h"
+#include "RenameFont.h"
+#include "RenameRowStyle.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVBoxLayout>
+
+namespace {
+
+QLabel *makeCaption(const QString &text, QWidget *parent)
+{
+    auto *caption = new QLabel(text, parent);
+    caption->setFont(RenameFont::helveticaNeue(11));
+    QPalette palette = caption->palette();
+    palette.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.45));
+    caption->setPalette(palette);
+    return caption;
+}
+
+// The picture fitted into the rounded square, corners included; a small picture is not
+// blown up into a blur. Without one, the soft square alone stands in.
+QPixmap framedImage(const QImage &image, qreal ratio)
+{
+    const int side = BRFilePreviewPopoverViewController::imageSide;
+    QPixmap pixmap(QSize(side, side) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    QPainterPath outline;
+    outline.addRoundedRect(QRectF(0, 0, side, side), 8, 8);
+    painter.fillPath(outline, BRColorHelper::color(240, 241, 243, 1.0));
+    if (!image.isNull()) {
+        QSizeF shown = QSizeF(image.size()) / image.devicePixelRatio();
+        if (shown.width() > side || shown.height() > side)
+            shown = shown.scaled(side, side, Qt::KeepAspectRatio);
+        QRectF target(QPointF(0, 0), shown);
+        target.moveCenter(QPointF(side / 2.0, side / 2.0));
+        painter.setClipPath(outline);
+        painter.drawImage(target, image);
+    }
+    return pixmap;
+}
+
+} // namespace
+
+BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *parent)
+    : QWidget(parent), m_renameFileImageView(new QLabel(this)),
+      m_renameFileCurrentLabel(new QLabel(this)),
+      m_renameFileNewNameTextField(new BRRenameRoundedTextField(this))
+{
+    setObjectName(QStringLiteral("filePreviewPopOver"));
+
+    m_renameFileImageView->setObjectName(QStringLiteral("renameFileImageView"));
+    m_renameFileImageView->setFixedSize(imageSide, imageSide);
+    m_renameFileImageView->setAlignment(Qt::AlignCenter);
+    m_renameFileImageView->setPixmap(framedImage(QImage(), devicePixelRatioF()));
+
+    m_renameFileCurrentLabel->setObjectName(QStringLiteral("renameFileCurrentLabel"));
+    m_renameFileCurrentLabel->setTextFormat(Qt::PlainText);
+    m_renameFileCurrentLabel->setFixedWidth(imageSide);
+    m_renameFileCurrentLabel->setFont(RenameFont::helveticaNeue(15, QFont::Medium));
+    QPalette namePalette = m_renameFileCurrentLabel->palette();
+    namePalette.setColor(QPalette::WindowText, RenameRowStyle::sourceNameColor());
+    m_renameFileCurrentLabel->setPalette(namePalette);
+
+    m_renameFileNewNameTextField->setObjectName(QStringLiteral("renameFileNewNameTextField"));
+    m_renameFileNewNameTextField->setAccessibleName(QStringLiteral("New Name"));
+    m_renameFileNewNameTextField->setPlaceholderText(RenameRowStyle::placeholderText());
+    m_renameFileNewNameTextField->setFont(RenameFont::helveticaNeue(15));
+    m_renameFileNewNameTextField->setFixedWidth(imageSide);
+    m_renameFileNewNameTextField->setMinimumHeight(32);
+    // No focus ring: the field is the only one here, and the popover says where it is.
+    m_renameFileNewNameTextField->setAttribute(Qt::WA_MacShowFocusRect, false);
+    m_renameFileNewNameTextField->setStyleSheet(
+        QStringLiteral("QLineEdit { border: 1px solid rgba(128, 128, 128, 0.5);"
+                       " border-radius: 5px; padding: 3px 6px; background: white; }"
+                       " QLineEdit:read-only { background: rgb(246, 247, 249);"
+                       " border-color: rgba(128, 128, 128, 0.25); }"));
+    m_renameFileNewNameTextField->setReadOnly(true);
+    QPalette fieldPalette = m_renameFileNewNameTextField->palette();
+    fieldPalette.setColor(QPalette::Text, RenameRowStyle::sourceNameColor());
+    fieldPalette.setColor(QPalette::PlaceholderText, RenameRowStyle::placeholderColor());
+    m_renameFileNewNameTextField->setPalette(fieldPalette);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 16);
+    layout->setSpacing(0);
+    layout->addWidget(m_renameFileImageView);
+    layout->addSpacing(12);
+    layout->addWidget(makeCaption(QStringLiteral("Current name"), this));
+    layout->addSpacing(2);
+    layout->addWidget(m_renameFileCurrentLabel);
+    layout->addSpacing(10);
+    layout->addWidget(makeCaption(QStringLiteral("New name"), this));
+    layout->addSpacing(4);
+    layout->addWidget(m_renameFileNewNameTextField);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    connect(m_renameFileNewNameTextField, &QLineEdit::returnPressed, this,
+            &BRFilePreviewPopoverViewController::newNameAction);
+}
+
+void BRFilePreviewPopoverViewController::setCurrentName(const QString &name)
+{
+    // A long name loses its middle; its end still tells the type.
+    m_renameFileCurrentLabel->setText(
+        m_renameFileCurrentLabel->fontMetrics().elidedText(name, Qt::ElideMiddle, imageSide));
+    m_renameFileCurrentLabel->setToolTip(name);
+}
+
+void BRFilePreviewPopoverViewController::setImage(const QImage &image)
+{
+    m_renameFileImageView->setPixmap(framedImage(image, devicePixelRatioF()));
+}
+
+void BRFilePreviewPopoverViewController::setEditableName(const QString &name)
+{
+    m_renameFileNewNameTextField->setReadOnly(false);
+    m_renameFileNewNameTextField->setText(name);
+    m_renameFileNewNameTextField->setFocus();
+    m_renameFileNewNameTextField->selectAll();
+}
+
+void BRFilePreviewPopoverViewController::newNameAction()
+{
+    // A read-only field has nothing of the user's to commit.
+    if (m_renameFileNewNameTextField->isReadOnly())
+        return;
+    if (m_delegate && m_index)
+        m_delegate->updateNewFileName(m_renameFileNewNameTextField, *m_index);
+}

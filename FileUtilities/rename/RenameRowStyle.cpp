@@ -1,0 +1,250 @@
+#include "RenameRowStyle.h"
+
+#include "BRColorHelper.h"
+#include "RenameFont.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+namespace {
+
+constexpr int sideMargin = 24;
+constexpr int gap = 20;
+constexpr int arrowWidth = 44;
+constexpr int fieldHeight = 36;
+constexpr int nameHeight = 30;
+constexpr int popoverSide = 28;
+constexpr int removeSide = 22;
+constexpr int thumbnailRadius = 6;
+
+// The field's frame, in the numbers its style sheet gives and QLineEdit adds: a border,
+// the padding, then the two pixels QLineEdit keeps on either side of its text.
+constexpr int fieldBorder = 1;
+constexpr int fieldPadding = 8;
+constexpr int lineEditMargin = 2;
+
+using IconPainter = void (*)(QPainter &painter, qreal side);
+
+QIcon iconOf(int side, IconPainter draw)
+{
+    QIcon icon;
+    for (const qreal ratio : {1.0, 2.0}) {
+        QPixmap pixmap(QSize(side, side) * ratio);
+        pixmap.setDevicePixelRatio(ratio);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        draw(painter, side);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+} // namespace
+
+RenameRowStyle::Geometry RenameRowStyle::geometry(const QRect &row)
+{
+    Geometry parts;
+    const int middle = row.top() + row.height() / 2;
+    parts.thumbnail =
+        QRect(row.left() + sideMargin, middle - thumbnailSide / 2, thumbnailSide, thumbnailSide);
+    parts.removeControl = QRect(row.left() + row.width() - gap - removeSide,
+                                middle - removeSide / 2, removeSide, removeSide);
+    parts.popoverControl = QRect(parts.removeControl.left() - 10 - popoverSide,
+                                 middle - popoverSide / 2, popoverSide, popoverSide);
+    const int left = parts.thumbnail.right() + 1 + gap;
+    const int right = parts.popoverControl.left() - 16;
+    const int available = qMax(0, right - left - arrowWidth);
+    // The new name gets the larger share: it is the one being made, and its text is larger.
+    const int nameWidth = available * 2 / 5;
+    parts.sourceName = QRect(left, middle - nameHeight / 2, nameWidth, nameHeight);
+    parts.arrow = QRect(parts.sourceName.right() + 1, middle - 10, arrowWidth, 20);
+    parts.newName = QRect(parts.arrow.right() + 1, middle - fieldHeight / 2,
+                          qMax(0, right - parts.arrow.right() - 1), fieldHeight);
+    return parts;
+}
+
+QFont RenameRowStyle::sourceNameFont()
+{
+    return RenameFont::helveticaNeue(15);
+}
+
+QColor RenameRowStyle::sourceNameColor()
+{
+    return BRColorHelper::color(38, 44, 56, 1.0);
+}
+
+QFont RenameRowStyle::newNameFont()
+{
+    return RenameFont::helveticaNeueMedium(18);
+}
+
+QColor RenameRowStyle::ruleNameColor()
+{
+    return BRColorHelper::color(31, 201, 126, 1.0);
+}
+
+QColor RenameRowStyle::editedNameColor()
+{
+    return BRColorHelper::color(33, 193, 249, 1.0);
+}
+
+QColor RenameRowStyle::placeholderColor()
+{
+    return BRColorHelper::color(107, 107, 107, 1.0);
+}
+
+QString RenameRowStyle::placeholderText()
+{
+    return QStringLiteral("New Name");
+}
+
+QString RenameRowStyle::newNameFieldStyleSheet()
+{
+    // The border is always there, transparent at rest, so that focus colours it without
+    // moving the text by a pixel.
+    return QStringLiteral("QLineEdit { border: %1px solid transparent; border-radius: 6px;"
+                          " padding: 0px %2px; background: transparent; }"
+                          " QLineEdit:hover:!read-only { border-color: rgba(0, 0, 0, 0.10); }"
+                          " QLineEdit:focus { border-color: rgba(0, 0, 0, 0.22);"
+                          " background: white; }")
+        .arg(fieldBorder)
+        .arg(fieldPadding);
+}
+
+QString RenameRowStyle::toolButtonStyleSheet()
+{
+    return QStringLiteral("QToolButton { border: none; background: transparent; padding: 0px; }"
+                          " QToolButton:hover { background: rgba(0, 0, 0, 0.06);"
+                          " border-radius: 6px; }"
+                          " QToolButton:pressed { background: rgba(0, 0, 0, 0.12); }");
+}
+
+void RenameRowStyle::paintGround(QPainter *painter, const QRect &row, bool hovered)
+{
+    painter->fillRect(row, hovered ? BRColorHelper::color(247, 248, 250, 1.0) : QColor(Qt::white));
+    painter->setPen(BRColorHelper::color(0, 0, 0, 0.08));
+    painter->drawLine(row.left() + gap, row.bottom(), row.right() - gap, row.bottom());
+}
+
+void RenameRowStyle::paintThumbnail(QPainter *painter, const QRect &frame, const QImage &image)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    QPainterPath outline;
+    outline.addRoundedRect(frame, thumbnailRadius, thumbnailRadius);
+    painter->fillPath(outline, BRColorHelper::color(240, 241, 243, 1.0));
+    if (!image.isNull()) {
+        const QSize fitted = image.size().scaled(frame.size(), Qt::KeepAspectRatio);
+        QRect target(QPoint(0, 0), fitted);
+        target.moveCenter(frame.center());
+        painter->setClipPath(outline);
+        painter->drawImage(target, image);
+    }
+    painter->restore();
+}
+
+void RenameRowStyle::paintArrow(QPainter *painter, const QRect &rect)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    QPen pen(BRColorHelper::color(0, 0, 0, 0.28), 1.5);
+    pen.setCapStyle(Qt::RoundCap);
+    pen.setJoinStyle(Qt::RoundJoin);
+    painter->setPen(pen);
+    const QPointF middle = QRectF(rect).center();
+    const QPointF tail(middle.x() - 9, middle.y());
+    const QPointF head(middle.x() + 9, middle.y());
+    painter->drawLine(tail, head);
+    painter->drawLine(head, head + QPointF(-5, -5));
+    painter->drawLine(head, head + QPointF(-5, 5));
+    painter->restore();
+}
+
+QRect RenameRowStyle::newNameLine(const QRect &field, const QFontMetrics &metrics,
+                                  const QString &text)
+{
+    // QLineEdit centres a line as tall as the text's bounding box, at least the font's
+    // height, in its contents, and keeps a margin at either end.
+    const QRect contents = field.adjusted(fieldBorder + fieldPadding, fieldBorder,
+                                          -fieldBorder - fieldPadding, -fieldBorder);
+    const int lineHeight = qMax(metrics.boundingRect(text).height(), metrics.height());
+    const int top = contents.top() + (contents.height() - lineHeight + 1) / 2;
+    return QRect(contents.left() + lineEditMargin, top, contents.width() - 2 * lineEditMargin,
+                 lineHeight);
+}
+
+void RenameRowStyle::paintNewName(QPainter *painter, const QRect &field,
+                                  const std::optional<QString> &name, bool edited)
+{
+    painter->save();
+    painter->setFont(newNameFont());
+    const QFontMetrics metrics = painter->fontMetrics();
+    if (!name || name->isEmpty()) {
+        const QString placeholder = placeholderText();
+        const QRect line = newNameLine(field, metrics, placeholder);
+        painter->setPen(placeholderColor());
+        painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+                          metrics.elidedText(placeholder, Qt::ElideRight, line.width()));
+    } else {
+        const QRect line = newNameLine(field, metrics, *name);
+        painter->setPen(edited ? editedNameColor() : ruleNameColor());
+        painter->drawText(QPoint(line.left(), line.top() + metrics.ascent()),
+                          metrics.elidedText(*name, Qt::ElideRight, line.width()));
+    }
+    painter->restore();
+}
+
+QString RenameRowStyle::elidedSourceName(const QString &name, int width)
+{
+    // The middle goes: the end of a name tells its type, the start which file it is.
+    return QFontMetrics(sourceNameFont()).elidedText(name, Qt::ElideMiddle, width);
+}
+
+QPixmap RenameRowStyle::thumbnailPixmap(const QImage &image, qreal ratio)
+{
+    QPixmap pixmap(QSize(thumbnailSide, thumbnailSide) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paintThumbnail(&painter, QRect(0, 0, thumbnailSide, thumbnailSide), image);
+    return pixmap;
+}
+
+QIcon RenameRowStyle::popoverIcon()
+{
+    // An eye: the control opens a larger look at the file.
+    return iconOf(20, [](QPainter &painter, qreal side) {
+        QPen pen(BRColorHelper::color(0, 0, 0, 0.45), 1.5);
+        pen.setJoinStyle(Qt::RoundJoin);
+        painter.setPen(pen);
+        const qreal middle = side / 2;
+        QPainterPath eye;
+        eye.moveTo(2, middle);
+        eye.quadTo(middle, middle - 9, side - 2, middle);
+        eye.quadTo(middle, middle + 9, 2, middle);
+        painter.drawPath(eye);
+        painter.setBrush(BRColorHelper::color(0, 0, 0, 0.45));
+        painter.drawEllipse(QPointF(middle, middle), 2.6, 2.6);
+    });
+}
+
+QIcon RenameRowStyle::removeIcon()
+{
+    // A grey disc with a white cross, as lists mark an entry that can be taken out.
+    return iconOf(18, [](QPainter &painter, qreal side) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(BRColorHelper::color(0, 0, 0, 0.30));
+        painter.drawEllipse(QRectF(0.5, 0.5, side - 1, side - 1));
+        QPen cross(Qt::white, 1.8);
+        cross.setCapStyle(Qt::RoundCap);
+        painter.setPen(cross);
+        const qreal inset = side * 0.33;
+        painter.drawLine(QPointF(inset, inset), QPointF(side - inset, side - inset));
+        painter.drawLine(QPointF(side - inset, inset), QPointF(inset, side - inset));
+    });
+}

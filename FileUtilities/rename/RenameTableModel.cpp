@@ -1,0 +1,136 @@
+#include "RenameTableModel.h"
+
+#include <QMimeData>
+
+RenameTableModel::RenameTableModel(QObject *parent) : QAbstractListModel(parent) {}
+
+void RenameTableModel::setContents(const QStringList *keys, const RenameFileDetails *details)
+{
+    beginResetModel();
+    m_keys = keys;
+    m_details = details;
+    m_rowCount = m_keys ? static_cast<int>(m_keys->size()) : 0;
+    endResetModel();
+}
+
+void RenameTableModel::setAcceptDrop(std::function<bool(const QList<QUrl> &)> acceptDrop)
+{
+    m_acceptDrop = std::move(acceptDrop);
+}
+
+void RenameTableModel::reload()
+{
+    beginResetModel();
+    m_rowCount = m_keys ? static_cast<int>(m_keys->size()) : 0;
+    endResetModel();
+}
+
+QString RenameTableModel::keyAt(int row) const
+{
+    if (!m_keys || row < 0 || row >= m_rowCount || row >= m_keys->size())
+        return {};
+    return m_keys->at(row);
+}
+
+const RenameRecord *RenameTableModel::recordAt(int row) const
+{
+    if (!m_details)
+        return nullptr;
+    const QString key = keyAt(row);
+    if (key.isNull())
+        return nullptr;
+    const auto found = m_details->constFind(key);
+    return found == m_details->constEnd() ? nullptr : &found.value();
+}
+
+int RenameTableModel::rowOfKey(const QString &key) const
+{
+    if (!m_keys)
+        return -1;
+    const qsizetype row = m_keys->indexOf(key);
+    return row < m_rowCount ? static_cast<int>(row) : -1;
+}
+
+QString RenameTableModel::lastPathComponent(const QUrl &url)
+{
+    QString path = url.path();
+    while (path.size() > 1 && path.endsWith(QLatin1Char('/')))
+        path.chop(1);
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+int RenameTableModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rowCount;
+}
+
+QVariant RenameTableModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    switch (role) {
+    case KeyRole:
+        return keyAt(index.row());
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+    case SourcePathRole:
+    case DestinationRole:
+    case EditedRole:
+        break;
+    default:
+        return {};
+    }
+    const RenameRecord *record = recordAt(index.row());
+    if (!record)
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return lastPathComponent(record->sourceURL);
+    case Qt::ToolTipRole:
+    case SourcePathRole:
+        return record->sourceURL.path();
+    case DestinationRole:
+        return record->destinationURL ? QVariant(*record->destinationURL) : QVariant();
+    case EditedRole:
+        return record->editableState == RenameTexts::edited;
+    default:
+        return {};
+    }
+}
+
+Qt::ItemFlags RenameTableModel::flags(const QModelIndex &index) const
+{
+    // The empty area takes drops. The rows say they do too, so that a view tells a drop on
+    // a row from one between rows, and then refuses it in canDropMimeData.
+    if (!index.isValid())
+        return Qt::ItemIsDropEnabled;
+    return Qt::ItemIsEnabled | Qt::ItemIsDropEnabled | Qt::ItemNeverHasChildren;
+}
+
+QStringList RenameTableModel::mimeTypes() const
+{
+    return {QStringLiteral("text/uri-list")};
+}
+
+Qt::DropActions RenameTableModel::supportedDropActions() const
+{
+    return Qt::CopyAction | Qt::MoveAction;
+}
+
+bool RenameTableModel::canDropMimeData(const QMimeData *data, Qt::DropAction action, int, int,
+                                       const QModelIndex &parent) const
+{
+    // A row is not a folder: nothing can go into one. Between rows and below them the
+    // place makes no difference, since the list sorts itself.
+    if (parent.isValid() || !data || !data->hasUrls())
+        return false;
+    return (supportedDropActions() & action) != 0;
+}
+
+bool RenameTableModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row,
+                                    int column, const QModelIndex &parent)
+{
+    if (!canDropMimeData(data, action, row, column, parent) || !m_acceptDrop)
+        return false;
+    return m_acceptDrop(data->urls());
+}
