@@ -25,6 +25,12 @@ void RenameTableModel::reload()
     endResetModel();
 }
 
+void RenameTableModel::refreshNames()
+{
+    if (m_rowCount > 0)
+        Q_EMIT dataChanged(index(0), index(m_rowCount - 1));
+}
+
 QString RenameTableModel::keyAt(int row) const
 {
     if (!m_keys || row < 0 || row >= m_rowCount || row >= m_keys->size())

@@ -38,6 +38,8 @@ public:
     void setAcceptDrop(std::function<bool(const QList<QUrl> &)> acceptDrop);
     // The lists changed: every view starts over from them.
     void reload();
+    // The same rows with other names or outcomes: repaints without rebuilding the view.
+    void refreshNames();
 
     QString keyAt(int row) const;
     const RenameRecord *recordAt(int row) const;
