@@ -24,6 +24,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QShowEvent>
 #include <QVBoxLayout>
 #include <QtConcurrent/QtConcurrentRun>
@@ -171,16 +172,19 @@ void BRRenameViewController::saveSourceUrls(const std::optional<QList<QUrl>> &ur
         return;
     m_brRenameFormat.emplace(this);
     bool duplicateMet = false;
+    // Asking the list itself would cost a pass over it per file: minutes for a big drop.
+    QSet<QString> listed(m_renameFileDetailsKey.cbegin(), m_renameFileDetailsKey.cend());
     for (const QUrl &url : *urls) {
         const QString path = url.toLocalFile();
         if (path.isEmpty())
             continue;
         const QString key = QFileInfo(path).fileName();
-        if (key.isEmpty() || m_renameFileDetailsKey.contains(key)) {
+        if (key.isEmpty() || listed.contains(key)) {
             duplicateMet = duplicateMet || !key.isEmpty();
             continue;
         }
         m_brRenameFormat->saveBookmark(url, m_bookmarks);
+        listed.insert(key);
         m_renameFileDetailsKey.insert(m_index, key);
         ++m_index;
         m_keysSorted = false;

@@ -1,7 +1,7 @@
 #include "AppDelegate.h"
 #include "BRDuplicateFilesMainViewController.h"
 #include "BRMainWindowController.h"
-#include "BRToolPlaceholderView.h"
+#include "BRRenameViewController.h"
 #include "DesktopWorkspace.h"
 #include "QtAlertPresenter.h"
 #include "QtOpenPanel.h"
@@ -33,17 +33,15 @@ int main(int argc, char *argv[])
     QApplication::setStyle(new ToolTipDelayStyle(
         settings.value(QStringLiteral("NSInitialToolTipDelay"), 700).toInt()));
 
-    BRMainWindowController window({appDelegate, alerts, openPanel, workspace, settings,
-                                   [&] {
-                                       return new BRDuplicateFilesMainViewController(
-                                           {alerts, openPanel, workspace, &appDelegate});
-                                   },
-                                   [] {
-                                       return new BRToolPlaceholderView(
-                                           QStringLiteral("Rename"),
-                                           QStringLiteral("Renaming files in batches comes to "
-                                                          "this window soon."));
-                                   }});
+    BRMainWindowController window(
+        {appDelegate, alerts, openPanel, workspace, settings,
+         [&] {
+             return new BRDuplicateFilesMainViewController(
+                 {alerts, openPanel, workspace, &appDelegate});
+         },
+         [&] {
+             return new BRRenameViewController({alerts, openPanel, &appDelegate});
+         }});
     alerts.setWindow(&window);
     openPanel.setWindow(&window);
     window.windowDidLoad();

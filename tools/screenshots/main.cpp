@@ -1,6 +1,7 @@
 // Takes screenshots of Quillmere's screens as a new user meets them: the intro, the home
-// folder choice, the main view on both tabs, About, and the duplicate finder from choosing
-// a folder to the detail of a group. It drives the real window with scripted dialogs and
+// folder choice, the main view on both tabs, About, the duplicate finder from choosing
+// a folder to the detail of a group, and the batch renamer from the drop target to the
+// end of a rename. It drives the real window with scripted dialogs and
 // grabs each screen, so no display or window manager is needed.
 //
 // Usage: quillmere-screenshots [OUTPUT_FOLDER]   (default: screenshots)
@@ -14,7 +15,9 @@
 #include "BRDuplicateSortViewController.h"
 #include "BRDuplicateStartScanButton.h"
 #include "BRMainWindowController.h"
-#include "BRToolPlaceholderView.h"
+#include "BRRenameTableView.h"
+#include "BRRenameViewController.h"
+#include "RenameNotificationCenter.h"
 #include "RowAnchoredPopover.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
@@ -26,7 +29,9 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
@@ -69,6 +74,23 @@ bool save(QWidget &widget, const QString &folder, const QString &name)
 {
     settle();
     return write(widget.grab().toImage(), folder, name);
+}
+
+// Types as a user does, key by key, so the screen hears every keystroke.
+void typeInto(QWidget *field, const QString &text)
+{
+    for (const QChar character : text) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
+        QCoreApplication::sendEvent(field, &press);
+        QKeyEvent release(QEvent::KeyRelease, 0, Qt::NoModifier, QString(character));
+        QCoreApplication::sendEvent(field, &release);
+    }
+}
+
+void pressReturn(QWidget *field)
+{
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(field, &press);
 }
 
 // A popup is a window of its own, so the screen is put together from both grabs.
@@ -300,6 +322,7 @@ int main(int argc, char *argv[])
     ScriptedWorkspace workspace;
     AppDelegate appDelegate(alerts, settings);
     BRDuplicateFilesMainViewController *duplicates = nullptr;
+    BRRenameViewController *renamer = nullptr;
     BRMainWindowController window(
         {appDelegate, alerts, panel, workspace, settings,
          [&] {
@@ -309,9 +332,10 @@ int main(int argc, char *argv[])
              duplicates->setTimings({0, 0, 100});
              return duplicates;
          },
-         [] {
-             return new BRToolPlaceholderView(QStringLiteral("Rename"),
-                                              QStringLiteral("The batch renamer's screens."));
+         [&] {
+             renamer = new BRRenameViewController({alerts, panel, &appDelegate});
+             renamer->setFadeDuration(0);
+             return renamer;
          }});
     window.resize(960, 640);
     if (const QScreen *screen = window.screen())
@@ -334,7 +358,7 @@ int main(int argc, char *argv[])
         about.show();
         ok &= save(about, output, QStringLiteral("5-about"));
     }
-    if (!duplicates)
+    if (!duplicates || !renamer)
         return 1;
 
     // The duplicate finder over a folder of its own.
@@ -404,5 +428,54 @@ int main(int argc, char *argv[])
     start->startScanButton()->click();
     settle(800);
     ok &= save(window, output, u"10-duplicates-status"_s);
+
+    // The batch renamer over a photo shoot, dropped from a file manager.
+    window.findChild<QToolButton *>(QStringLiteral("renameImageButton"))->click();
+    settle();
+    ok &= save(window, output, u"11-rename-drop-target"_s);
+    const SampleTree shoot(scratch.filePath(u"Coast walk"_s));
+    QList<QUrl> photos;
+    for (int i = 0; i < 9; ++i) {
+        const QString name = u"DSC_%1.jpg"_s.arg(4100 + i * 7);
+        shoot.writePhoto(name, {640, 480}, static_cast<quint32>(300 + i), i == 4);
+        photos.append(QUrl::fromLocalFile(shoot.path(name)));
+    }
+    shoot.writeBytes(u"Route notes.txt"_s, "Start at the harbour, keep the sea on the left.\n");
+    photos.append(QUrl::fromLocalFile(shoot.path(u"Route notes.txt"_s)));
+    Q_EMIT renamer->notificationCenter()->dragAndDropComplete(photos);
+    settle();
+    typeInto(renamer->findChild<QLineEdit *>(u"newNameTextField"_s), u"Coast walk "_s);
+    settle();
+    // One name written by hand, in the popover of the third row.
+    renamer->showPopOver(2);
+    settle();
+    if (RowAnchoredPopover *popover = renamer->popover()) {
+        auto *field = popover->findChild<QLineEdit *>(u"renameFileNewNameTextField"_s);
+        field->selectAll();
+        typeInto(field, u"Lighthouse at dusk"_s);
+        pressReturn(field);
+    }
+    renamer->closePopOver();
+    settle();
+    // The mouse rests on the first row, which shows its controls.
+    BRRenameTableView *table = renamer->renameTableView();
+    const QPoint onFirstRow = table->rectForRow(0).center();
+    QMouseEvent hover(QEvent::MouseMove, table->viewport()->mapFrom(table, onFirstRow),
+                      table->mapToGlobal(onFirstRow), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(table->viewport(), &hover);
+    settle();
+    ok &= save(window, output, u"12-rename-list"_s);
+
+    renamer->showPopOver(1);
+    settle(600);
+    if (RowAnchoredPopover *popover = renamer->popover())
+        ok &= saveWithPopup(window, *popover, output, u"13-rename-popover"_s);
+    else
+        ok = false;
+    renamer->closePopOver();
+
+    window.findChild<QPushButton *>(u"renameButton"_s)->click();
+    settle(800);
+    ok &= save(window, output, u"14-rename-complete"_s);
     return ok ? 0 : 1;
 }
