@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegion>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -73,8 +74,9 @@ RowAnchoredPopover::RowAnchoredPopover(QWidget *content, QWidget *parent)
 {
     setObjectName(QStringLiteral("RowAnchoredPopover"));
     setAttribute(Qt::WA_DeleteOnClose);
-    // The rounded corners and the notch show what lies behind. Without a compositor, Qt on
-    // X11 shapes the window to its painted pixels, so no black shows there either.
+    // The rounded corners and the notch show what lies behind: through the translucent
+    // ground where a compositor blends windows, and through the window's shape (set with
+    // its geometry) where none does, which would otherwise show black there.
     setAttribute(Qt::WA_TranslucentBackground);
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(0);
@@ -154,6 +156,7 @@ void RowAnchoredPopover::showRelativeToRect(const QRect &rect, QWidget *view,
     m_arrowCenter = length > 2 * margin ? qBound(margin, along, length - margin) : length / 2;
 
     setGeometry(frame);
+    setMask(QRegion(outline().toFillPolygon().toPolygon()));
     show();
     update();
 }
