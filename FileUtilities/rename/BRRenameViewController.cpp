@@ -606,10 +606,19 @@ void BRRenameViewController::setViewsHiddenState(bool containerViewHidden,
                                                  bool dragAndDropViewHidden, bool renameViewHidden,
                                                  bool completeStatusViewHidden)
 {
-    m_containerView->setHidden(containerViewHidden);
-    m_dragAndDropView->setHidden(dragAndDropViewHidden);
-    m_renameCustomView->setHidden(renameViewHidden);
-    m_renameCompleteStatusView->setHidden(completeStatusViewHidden);
+    // Hide before showing: for a moment with two states on screen, the window would grow
+    // to hold both.
+    const std::pair<QWidget *, bool> views[] = {
+        {m_containerView, containerViewHidden},
+        {m_dragAndDropView, dragAndDropViewHidden},
+        {m_renameCustomView, renameViewHidden},
+        {m_renameCompleteStatusView, completeStatusViewHidden}};
+    for (const auto &[view, hidden] : views)
+        if (hidden)
+            view->hide();
+    for (const auto &[view, hidden] : views)
+        if (!hidden)
+            view->show();
 }
 
 void BRRenameViewController::browseAction()
