@@ -74,16 +74,22 @@ BRDragAndDropView::BRDragAndDropView(RenameNotificationCenter *center, OpenPanel
     connect(m_browseButton, &QPushButton::clicked, this, &BRDragAndDropView::browseAction);
 }
 
-void BRDragAndDropView::browseAction()
+OpenPanelRequest BRDragAndDropView::filesToRenameRequest(const QString &message)
 {
     OpenPanelRequest request;
-    request.message = QStringLiteral("Choose files to rename");
+    request.message = message;
     request.canChooseFiles = true;
     request.canChooseDirectories = true;
     request.canCreateDirectories = true;
     request.allowsMultipleSelection = true;
     request.showsHiddenFiles = false;
-    const QList<QUrl> urls = m_openPanel.runModal(request);
+    return request;
+}
+
+void BRDragAndDropView::browseAction()
+{
+    const QList<QUrl> urls =
+        m_openPanel.runModal(filesToRenameRequest(QStringLiteral("Choose files to rename")));
     if (!urls.isEmpty())
         announce(urls);
 }

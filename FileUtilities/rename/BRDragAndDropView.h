@@ -1,12 +1,12 @@
 #pragma once
 
 #include "BRImageBackgroundView.h"
+#include "OpenPanel.h"
 
 #include <QList>
 #include <QUrl>
 
 class BRDragAndDropImageView;
-class OpenPanel;
 class QPushButton;
 class RenameNotificationCenter;
 
@@ -27,6 +27,9 @@ public:
     QWidget *view() const { return m_view; }
     BRDragAndDropImageView *imageView() const { return m_imageView; }
     QPushButton *browseButton() const { return m_browseButton; }
+
+    // The open panel of both ways to choose files for renaming, with its message.
+    static OpenPanelRequest filesToRenameRequest(const QString &message);
 
 public Q_SLOTS:
     void browseAction();

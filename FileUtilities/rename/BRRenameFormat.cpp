@@ -79,6 +79,24 @@ std::optional<qint64> BRRenameFormat::parseNumber(const QString &text)
     return -value;
 }
 
+RuleRunReport BRRenameFormat::nameListedRows(RenameFileDetails &details, const QStringList &keys,
+                                             const std::function<void(RenameRecord &)> &name)
+{
+    // Keys without a record use up nothing; a row without a path is reported, not named.
+    RuleRunReport report;
+    for (const QString &key : keys) {
+        const auto record = details.find(key);
+        if (record == details.end())
+            continue;
+        if (localPath(record->sourceURL).isEmpty()) {
+            report.missingKeys.append(key);
+            continue;
+        }
+        name(*record);
+    }
+    return report;
+}
+
 std::optional<RuleRunReport> BRRenameFormat::changeFullFileNames(
     const QString &numberText, const std::optional<QString> &newName, RenameFileDetails &details,
     const QStringList &keys, const QString &where) const
@@ -93,20 +111,11 @@ std::optional<RuleRunReport> BRRenameFormat::changeFullFileNames(
         if (*start <= startNumberLimit)
             counter = *start;
     }
-    RuleRunReport report;
-    for (const QString &key : keys) {
-        const auto record = details.find(key);
-        if (record == details.end())
-            continue;
-        if (localPath(record->sourceURL).isEmpty()) {
-            report.missingKeys.append(key);
-            continue;
-        }
-        if (record->editableState != RenameTexts::edited)
-            record->destinationURL = joined(*newName, QString::number(counter), where);
-        ++counter;
-    }
-    return report;
+    return nameListedRows(details, keys, [&](RenameRecord &record) {
+        if (record.editableState != RenameTexts::edited)
+            record.destinationURL = joined(*newName, QString::number(counter), where);
+        ++counter; // an edited row keeps its number, so the others keep theirs
+    });
 }
 
 std::optional<RuleRunReport> BRRenameFormat::addTextToFileNames(const QString &text,
@@ -116,19 +125,10 @@ std::optional<RuleRunReport> BRRenameFormat::addTextToFileNames(const QString &t
 {
     if (text.isEmpty())
         return std::nullopt;
-    RuleRunReport report;
-    for (const QString &key : keys) {
-        const auto record = details.find(key);
-        if (record == details.end())
-            continue;
-        if (localPath(record->sourceURL).isEmpty()) {
-            report.missingKeys.append(key);
-            continue;
-        }
-        if (record->editableState != RenameTexts::edited)
-            record->destinationURL = addedTextName(record->sourceURL, text, where);
-    }
-    return report;
+    return nameListedRows(details, keys, [&](RenameRecord &record) {
+        if (record.editableState != RenameTexts::edited)
+            record.destinationURL = addedTextName(record.sourceURL, text, where);
+    });
 }
 
 std::optional<QString> BRRenameFormat::fullFileNameForRow(const std::optional<QString> &newNameText,

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <functional>
 #include <optional>
 
 class BRRenameViewDelegate;
@@ -109,6 +110,9 @@ public:
     void saveBookmark(const QUrl &url, RenameBookmarks &bookmarks) const;
 
 private:
+    // Hands each listed row that has a path to `name`, in list order; reports the others.
+    static RuleRunReport nameListedRows(RenameFileDetails &details, const QStringList &keys,
+                                        const std::function<void(RenameRecord &)> &name);
     // One rename run shares what its bookmark searches read, so that a whole folder of
     // missing files costs one walk of their surroundings.
     std::optional<QUrl> restoreBookmark(const QString &path, RenameBookmarks &bookmarks,

@@ -623,14 +623,8 @@ void BRRenameViewController::setViewsHiddenState(bool containerViewHidden,
 
 void BRRenameViewController::browseAction()
 {
-    OpenPanelRequest request;
-    request.message = tr("Add files to rename");
-    request.canChooseFiles = true;
-    request.canChooseDirectories = true;
-    request.canCreateDirectories = true;
-    request.allowsMultipleSelection = true;
-    request.showsHiddenFiles = false;
-    const QList<QUrl> urls = m_openPanel.runModal(request);
+    const QList<QUrl> urls =
+        m_openPanel.runModal(BRDragAndDropView::filesToRenameRequest(tr("Add files to rename")));
     if (!urls.isEmpty())
         saveSourceUrls(urls);
 }
