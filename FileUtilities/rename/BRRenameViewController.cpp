@@ -14,13 +14,13 @@
 #include "BRRenameTableView.h"
 #include "BRRenameViewRenameButton.h"
 #include "OpenPanel.h"
+#include "RenameFont.h"
 #include "RenameNotificationCenter.h"
 #include "RenameTableModel.h"
 #include "RowAnchoredPopover.h"
 #include "ViewFader.h"
 
 #include <QFileInfo>
-#include <QFont>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -658,9 +658,7 @@ void BRRenameViewController::refreshRenameButtonTitle()
 
 void BRRenameViewController::setRenameButtonTitle(const QString &title, const QColor &color)
 {
-    QFont font(QStringLiteral("Helvetica Neue"));
-    font.setPixelSize(18);
-    m_renameButton->setFont(font);
+    m_renameButton->setFont(RenameFont::helveticaNeue(18));
     m_renameButton->setText(title);
     // The button stays clickable in both looks: a press without a rule does nothing.
     const QString ground = m_renameActive ? QStringLiteral("rgb(31, 201, 126)")

@@ -53,8 +53,7 @@ public:
     void clearAll();
     void sortRenameFileDetailsKey();
     void reloadTableView();
-    // A drop between rows (or below them); a drop onto a row is refused.
-    bool tableViewValidateDrop(bool onRow) const { return !onRow; }
+    // Files dropped between rows or below them (the list's model refuses a drop onto a row).
     bool tableViewAcceptDrop(const QList<QUrl> &urls);
 
     // The rules and the hand edits.
