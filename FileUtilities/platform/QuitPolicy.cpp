@@ -1,0 +1,59 @@
+#include "QuitPolicy.h"
+
+namespace QuitPolicy {
+
+namespace {
+
+Alert quitAlert(const QString &message)
+{
+    return {QStringLiteral("Quit Quillmere?"), message};
+}
+
+QString scanInProgress()
+{
+    return QStringLiteral(
+        "Duplicate files scan is in progress. Are you sure you want to quit Quillmere?");
+}
+
+QString resultsWillBeLost()
+{
+    return QStringLiteral("The current list of the duplicate search results will be lost. Are "
+                          "you sure you want to quit Quillmere?");
+}
+
+QString renameFilesSelected()
+{
+    return QStringLiteral(
+        "There are files selected for rename. Are you sure you want to quit Quillmere?");
+}
+
+} // namespace
+
+Decision decide(Request request, const Facts &facts)
+{
+    switch (request) {
+    case Request::Quit:
+        // A filled rename list does not hold up the Quit command; only the close button asks.
+        if (facts.scanRunning)
+            return {quitAlert(scanInProgress()), Clears::ApplicationStatus, true};
+        if (facts.groupsHeld > 0)
+            return {quitAlert(resultsWillBeLost()), Clears::ApplicationStatus, true};
+        return {};
+    case Request::CloseOnDuplicates:
+        if (facts.scanRunning)
+            return {quitAlert(scanInProgress()), Clears::DuplicateResults, false};
+        if (facts.groupsHeld > 0)
+            return {quitAlert(resultsWillBeLost()), Clears::DuplicateResults, false};
+        return {};
+    case Request::CloseOnRename:
+        // The list in front of the user comes first; a running scan is not asked about here.
+        if (facts.renameRows > 0)
+            return {quitAlert(renameFilesSelected()), Clears::Nothing, false};
+        if (!facts.scanRunning && facts.groupsHeld > 0)
+            return {quitAlert(resultsWillBeLost()), Clears::ApplicationStatus, false};
+        return {};
+    }
+    return {};
+}
+
+} // namespace QuitPolicy
