@@ -1,5 +1,7 @@
 #include "DesktopWorkspace.h"
 
+#include "PlatformLog.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDesktopServices>
@@ -62,6 +64,8 @@ TrashResult DesktopWorkspace::moveToTrash(const QString &path)
     QFile item(path);
     if (!item.moveToTrash()) {
         result.error = item.errorString();
+        qCWarning(platformLog).noquote()
+            << "could not move" << path << "to the Trash:" << item.errorString();
         return result;
     }
     const QString pathInTrash = item.fileName();
@@ -69,6 +73,8 @@ TrashResult DesktopWorkspace::moveToTrash(const QString &path)
         // It went somewhere that is no Trash: bring it back, never over another item.
         if (!QFile::exists(path))
             QFile::rename(QDir::current().absoluteFilePath(pathInTrash), path);
+        qCWarning(platformLog).noquote()
+            << "the Trash put" << path << "outside any Trash, at" << pathInTrash;
         result.error =
             QStringLiteral("The Trash could not be used for “%1”.").arg(QFileInfo(path).fileName());
         return result;

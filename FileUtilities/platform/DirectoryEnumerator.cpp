@@ -1,5 +1,7 @@
 #include "DirectoryEnumerator.h"
 
+#include "PlatformLog.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -39,6 +41,12 @@ bool survivesDecoding(const char *name, qsizetype length)
         return true;
     const QByteArray native = QByteArray::fromRawData(name, length);
     return QFile::encodeName(decodeName(native)) == native;
+}
+
+QString errorText(int error)
+{
+    char buffer[256] = {};
+    return QString::fromLocal8Bit(::strerror_r(error, buffer, sizeof buffer));
 }
 
 // The folder's path and a name, joined with one slash (the root already ends in one).
@@ -107,6 +115,9 @@ std::optional<DirectoryEnumerator> DirectoryEnumerator::open(const QString &root
     // The root is what the user chose, so a link to a folder is followed there, and only there.
     const QByteArray nativeRoot = QFile::encodeName(enumerator.m_rootPath);
     const int descriptor = ::open(nativeRoot.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        qCWarning(platformLog).noquote() << "cannot open the folder" << enumerator.m_rootPath
+                                         << "to walk it:" << errorText(errno);
     auto root = readFolder(descriptor, nativeRoot, enumerator.m_rootPath);
     if (!root)
         return std::nullopt;
@@ -139,8 +150,12 @@ DirectoryEnumerator::readFolder(int fd, const QByteArray &nativePath, const QStr
             if (name[0] == '.')
                 continue; // hidden, and "." and ".."
             const auto length = static_cast<qsizetype>(std::strlen(name));
-            if (!survivesDecoding(name, length))
+            if (!survivesDecoding(name, length)) {
+                qCDebug(platformLog).noquote()
+                    << "passed over a name that is not UTF-8 in" << path << ":"
+                    << QByteArray(name, length).toPercentEncoding("/", "%");
                 continue;
+            }
             struct stat info = {};
             if (::fstatat(fd, name, &info, AT_SYMLINK_NOFOLLOW) != 0)
                 continue; // vanished since it was listed
@@ -181,6 +196,9 @@ std::optional<DirectoryEntry> DirectoryEnumerator::nextEntry()
             fd = ::open(target.nativePath.constData(), flags);
         }
         // A folder that cannot be read was still yielded; it simply has no contents here.
+        if (fd < 0)
+            qCDebug(platformLog).noquote()
+                << "passed over the contents of" << target.path << ":" << errorText(errno);
         if (auto folder = readFolder(fd, target.nativePath, target.path))
             m_openFolders.push_back(std::move(*folder));
     }

@@ -1,5 +1,7 @@
 #include "FileMover.h"
 
+#include "PlatformLog.h"
+
 #include <QFile>
 #include <QStringDecoder>
 
@@ -31,6 +33,16 @@ bool lacksNoReplace(int error)
 } // namespace
 
 FileMover::Result FileMover::move(const QString &sourcePath, const QString &targetPath)
+{
+    Result result = moveWithoutReplacing(sourcePath, targetPath);
+    if (!result.success)
+        qCWarning(platformLog).noquote()
+            << "could not move" << sourcePath << "to" << targetPath << ":" << result.errorText;
+    return result;
+}
+
+FileMover::Result FileMover::moveWithoutReplacing(const QString &sourcePath,
+                                                  const QString &targetPath)
 {
     const QByteArray source = QFile::encodeName(sourcePath);
     const QByteArray target = QFile::encodeName(targetPath);

@@ -31,4 +31,7 @@ public:
     // "..", no '/' or NUL, exactly representable in the file-name encoding, and no longer
     // in bytes than the folder's file system allows (NAME_MAX when it cannot be asked).
     static bool isValidFileName(const QString &name, const QString &folderPath = QString());
+
+private:
+    static Result moveWithoutReplacing(const QString &sourcePath, const QString &targetPath);
 };

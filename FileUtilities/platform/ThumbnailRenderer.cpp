@@ -1,5 +1,7 @@
 #include "ThumbnailRenderer.h"
 
+#include "PlatformLog.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QFileInfo>
@@ -74,7 +76,11 @@ QImage ThumbnailRenderer::fromImageFile(const QString &path, QSize size)
     if (original.isValid() &&
         (original.width() > size.width() || original.height() > size.height()))
         reader.setScaledSize(original.scaled(size, Qt::KeepAspectRatio));
-    return fitted(reader.read(), size);
+    QImage image = reader.read();
+    if (image.isNull())
+        qCDebug(platformLog).noquote()
+            << "no picture of" << path << "from its contents:" << reader.errorString();
+    return fitted(image, size);
 }
 
 QImage ThumbnailRenderer::fromIconTheme(const QString &path, QSize size)
