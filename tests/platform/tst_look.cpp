@@ -137,64 +137,46 @@ private Q_SLOTS:
     // Qt drops a style sheet it cannot parse with no more than a warning.
     void everyStyleSheetParses_data()
     {
-        QTest::addColumn<QString>("kind");
-        for (const char *kind : {"filled", "filledPressed", "glass", "plain", "link", "tool",
-                                 "field", "search", "progress", "box", "bar"})
-            QTest::newRow(kind) << QString::fromLatin1(kind);
+        namespace Sheet = Look::StyleSheet;
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<QString>("control");
+        const QString button = QStringLiteral("QPushButton");
+        const QString field = QStringLiteral("QLineEdit");
+        QTest::newRow("filled") << Sheet::filledButton(Color::Accent) << button;
+        QTest::newRow("filled, pressed")
+            << Sheet::filledButton(Color::MoreAppsGround, Color::MoreAppsPressed,
+                                   Color::TextOnColor)
+            << button;
+        QTest::newRow("glass") << Sheet::glassButton() << button;
+        QTest::newRow("plain") << Sheet::plainButton() << button;
+        QTest::newRow("link") << Sheet::linkButton() << button;
+        QTest::newRow("tool") << Sheet::toolButton() << QStringLiteral("QToolButton");
+        QTest::newRow("field") << Sheet::roundedTextField() << field;
+        QTest::newRow("search") << Sheet::roundedSearchField() << field;
+        QTest::newRow("progress") << Sheet::progressTrack() << QStringLiteral("QProgressBar");
+        QTest::newRow("box") << Sheet::roundedBox(QStringLiteral("bar")) << QString();
+        QTest::newRow("bar") << Sheet::buttonBar(QStringLiteral("bar")) << QString();
     }
     void everyStyleSheetParses()
     {
-        QFETCH(QString, kind);
-        namespace Sheet = Look::StyleSheet;
+        QFETCH(QString, sheet);
+        QFETCH(QString, control);
         std::unique_ptr<QWidget> widget;
-        QString sheet;
-        if (kind == u"filled") {
+        if (control == u"QPushButton")
             widget = std::make_unique<QPushButton>();
-            sheet = Sheet::filledButton(Color::Accent);
-        } else if (kind == u"filledPressed") {
-            widget = std::make_unique<QPushButton>();
-            sheet = Sheet::filledButton(Color::MoreAppsGround, Color::MoreAppsPressed,
-                                        Color::TextOnColor);
-        } else if (kind == u"glass") {
-            widget = std::make_unique<QPushButton>();
-            sheet = Sheet::glassButton();
-        } else if (kind == u"plain") {
-            widget = std::make_unique<QPushButton>();
-            sheet = Sheet::plainButton();
-        } else if (kind == u"link") {
-            widget = std::make_unique<QPushButton>();
-            sheet = Sheet::linkButton();
-        } else if (kind == u"tool") {
+        else if (control == u"QToolButton")
             widget = std::make_unique<QToolButton>();
-            sheet = Sheet::toolButton();
-        } else if (kind == u"field") {
+        else if (control == u"QLineEdit")
             widget = std::make_unique<QLineEdit>();
-            sheet = Sheet::roundedTextField();
-        } else if (kind == u"search") {
-            widget = std::make_unique<QLineEdit>();
-            sheet = Sheet::roundedSearchField();
-        } else if (kind == u"progress") {
+        else if (control == u"QProgressBar")
             widget = std::make_unique<QProgressBar>();
-            sheet = Sheet::progressTrack();
-        } else {
+        else
             widget = std::make_unique<QWidget>();
-            widget->setObjectName(QStringLiteral("bar"));
-            sheet = kind == u"box" ? Sheet::roundedBox(QStringLiteral("bar"))
-                                   : Sheet::buttonBar(QStringLiteral("bar"));
-        }
+        widget->setObjectName(QStringLiteral("bar"));
         QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
         widget->setStyleSheet(sheet);
         widget->resize(120, 40);
         rendered(*widget);
-    }
-
-    void aFilledButtonPaintsItsGroundAndTitle()
-    {
-        QPushButton button;
-        button.setStyleSheet(Look::StyleSheet::filledButton(Color::Accent));
-        button.resize(160, 48);
-        QCOMPARE(rendered(button).pixelColor(12, 24), Look::color(Color::Accent));
-        QCOMPARE(button.palette().color(QPalette::ButtonText), Look::color(Color::TextOnColor));
     }
 
     // The popover's field is greyed until the user may type a name; the rule fields never are.
@@ -263,7 +245,6 @@ private Q_SLOTS:
         QLabel *caption =
             Look::label(&screen, 11, QFont::Normal, Color::SecondaryText, QStringLiteral("Size"));
         QCOMPARE(caption->parent(), &screen);
-        QCOMPARE(caption->text(), QStringLiteral("Size"));
         QCOMPARE(QFontInfo(caption->font()).pixelSize(), 11);
         QCOMPARE(caption->palette().color(caption->foregroundRole()),
                  Look::color(Color::SecondaryText));
