@@ -2,6 +2,7 @@
 
 #include "BRObjectClass.h"
 #include "BRRealHomeDirectory.h"
+#include "Look.h"
 #include "OpenPanel.h"
 
 #include <QDir>
@@ -18,9 +19,7 @@ BRSelectHomeFolderViewController::BRSelectHomeFolderViewController(OpenPanel &pa
     setObjectName(QStringLiteral("BRSelectHomeFolderViewController"));
     m_selectHomeFolderButton->setObjectName(QStringLiteral("selectHomeFolderButton"));
     auto *title = new QLabel(tr("Choose a Home Folder"), this);
-    QFont titleFont = title->font();
-    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.8);
-    title->setFont(titleFont);
+    title->setFont(Look::font(22));
     m_selectHomeFolderButton->setMinimumSize(200, 44);
     auto *explanation = new QLabel(
         tr("Quillmere works inside the folder you choose here. You are asked once."), this);

@@ -1,5 +1,7 @@
 #include "BRImageBackgroundView.h"
 
+#include "LookColors.h"
+
 #include <QPainter>
 
 BRImageBackgroundView::BRImageBackgroundView(const QString &imageName, Tone imageTone,
@@ -8,7 +10,7 @@ BRImageBackgroundView::BRImageBackgroundView(const QString &imageName, Tone imag
 {
     if (imageTone == Tone::Dark && m_image.isValid()) {
         QPalette lightText = palette();
-        lightText.setColor(QPalette::WindowText, Qt::white);
+        lightText.setColor(QPalette::WindowText, Look::color(Look::Color::TextOnColor));
         setPalette(lightText);
     }
 }

@@ -1,5 +1,7 @@
 #include "FilePreviewView.h"
 
+#include "LookColors.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -160,8 +162,9 @@ void FilePreviewView::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(QColor(0, 0, 0, 28));
-    painter.setBrush(m_kind == Kind::Text ? QColor(255, 255, 255) : QColor(243, 244, 246));
+    painter.setPen(Look::color(Look::Color::PreviewBorder));
+    painter.setBrush(
+        Look::color(m_kind == Kind::Text ? Look::Color::Paper : Look::Color::PreviewGround));
     painter.drawRoundedRect(frame, 8, 8);
 
     const QRect inner = rect().adjusted(padding, padding, -padding, -padding);
@@ -189,7 +192,7 @@ void FilePreviewView::paintText(QPainter &painter, const QRect &area) const
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPixelSize(10);
     painter.setFont(font);
-    painter.setPen(QColor(60, 60, 60));
+    painter.setPen(Look::color(Look::Color::PreviewText));
     painter.setClipRect(area);
     const QFontMetrics metrics(font);
     int baseline = area.top() + metrics.ascent();
@@ -208,10 +211,10 @@ void FilePreviewView::paintGenericIcon(QPainter &painter, const QRectF &target) 
     const qreal y = target.y();
     const qreal w = target.width();
     const qreal h = target.height();
-    painter.setPen(QPen(QColor(120, 130, 145), 2.0));
+    painter.setPen(QPen(Look::color(Look::Color::IconStroke), 2.0));
     QPainterPath shape;
     if (m_folder) {
-        painter.setBrush(QColor(120, 170, 230));
+        painter.setBrush(Look::color(Look::Color::FolderIconFill));
         shape.moveTo(x + w * 0.08, y + h * 0.25);
         shape.lineTo(x + w * 0.40, y + h * 0.25);
         shape.lineTo(x + w * 0.47, y + h * 0.33);
@@ -222,7 +225,7 @@ void FilePreviewView::paintGenericIcon(QPainter &painter, const QRectF &target) 
         painter.drawPath(shape);
         return;
     }
-    painter.setBrush(QColor(250, 250, 252));
+    painter.setBrush(Look::color(Look::Color::PreviewIconPageFill));
     shape.moveTo(x + w * 0.22, y + h * 0.08);
     shape.lineTo(x + w * 0.62, y + h * 0.08);
     shape.lineTo(x + w * 0.80, y + h * 0.26);

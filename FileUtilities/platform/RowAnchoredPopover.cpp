@@ -1,5 +1,7 @@
 #include "RowAnchoredPopover.h"
 
+#include "LookColors.h"
+
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -201,8 +203,8 @@ void RowAnchoredPopover::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(0, 0, 0, 46), border));
-    painter.setBrush(QColor(251, 251, 252));
+    painter.setPen(QPen(Look::color(Look::Color::PopoverBorder), border));
+    painter.setBrush(Look::color(Look::Color::PopoverGround));
     painter.drawPath(outline());
 }
 

@@ -1,5 +1,6 @@
 #include "ThumbnailRenderer.h"
 
+#include "LookColors.h"
 #include "PlatformLog.h"
 
 #include <QCryptographicHash>
@@ -111,9 +112,9 @@ QImage ThumbnailRenderer::genericIcon(bool folder, QSize size)
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal w = size.width();
     const qreal h = size.height();
-    painter.setPen(QPen(QColor(120, 130, 145), qMax(1.0, w / 40)));
+    painter.setPen(QPen(Look::color(Look::Color::IconStroke), qMax(1.0, w / 40)));
     if (folder) {
-        painter.setBrush(QColor(120, 170, 230));
+        painter.setBrush(Look::color(Look::Color::FolderIconFill));
         QPainterPath shape;
         shape.moveTo(w * 0.08, h * 0.25);
         shape.lineTo(w * 0.40, h * 0.25);
@@ -124,7 +125,7 @@ QImage ThumbnailRenderer::genericIcon(bool folder, QSize size)
         shape.closeSubpath();
         painter.drawPath(shape);
     } else {
-        painter.setBrush(QColor(245, 246, 248));
+        painter.setBrush(Look::color(Look::Color::IconPageFill));
         QPainterPath page;
         page.moveTo(w * 0.22, h * 0.08);
         page.lineTo(w * 0.62, h * 0.08);

@@ -1,7 +1,7 @@
 #include "BRDragAndDropImageView.h"
 
-#include "BRColorHelper.h"
 #include "FileUrlDrag.h"
+#include "LookColors.h"
 #include "RenameNotificationCenter.h"
 
 #include <QDropEvent>
@@ -9,11 +9,6 @@
 #include <QPainterPath>
 
 namespace {
-
-QColor accent(double alpha)
-{
-    return BRColorHelper::color(31, 201, 126, alpha);
-}
 
 // One page: a white sheet with a folded corner and a few lines of text.
 void paintPage(QPainter &painter, const QRectF &page, qreal angle, bool lines)
@@ -30,17 +25,17 @@ void paintPage(QPainter &painter, const QRectF &page, qreal angle, bool lines)
     outline.lineTo(sheet.bottomRight());
     outline.lineTo(sheet.bottomLeft());
     outline.closeSubpath();
-    painter.setPen(QPen(BRColorHelper::color(0, 0, 0, 0.16), 1.5));
-    painter.setBrush(Qt::white);
+    painter.setPen(QPen(Look::color(Look::Color::PageOutline), 1.5));
+    painter.setBrush(Look::color(Look::Color::Paper));
     painter.drawPath(outline);
     QPainterPath corner;
     corner.moveTo(sheet.right() - fold, sheet.top());
     corner.lineTo(sheet.right() - fold, sheet.top() + fold);
     corner.lineTo(sheet.right(), sheet.top() + fold);
-    painter.setBrush(BRColorHelper::color(240, 241, 243, 1.0));
+    painter.setBrush(Look::color(Look::Color::PaperFold));
     painter.drawPath(corner);
     if (lines) {
-        painter.setPen(QPen(BRColorHelper::color(0, 0, 0, 0.12), 3, Qt::SolidLine, Qt::RoundCap));
+        painter.setPen(QPen(Look::color(Look::Color::PageLines), 3, Qt::SolidLine, Qt::RoundCap));
         const qreal left = sheet.left() + 10;
         for (int line = 0; line < 4; ++line) {
             const qreal y = sheet.top() + 26 + line * 9;
@@ -81,11 +76,12 @@ void BRDragAndDropImageView::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
 
     const QRectF frame = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
-    QPen border(m_highlighted ? accent(1.0) : BRColorHelper::color(0, 0, 0, 0.18), 2);
+    QPen border(Look::color(m_highlighted ? Look::Color::Accent : Look::Color::DropZoneBorder), 2);
     border.setDashPattern({4, 3});
     border.setCapStyle(Qt::RoundCap);
     painter.setPen(border);
-    painter.setBrush(m_highlighted ? accent(0.08) : BRColorHelper::color(255, 255, 255, 0.55));
+    painter.setBrush(
+        Look::color(m_highlighted ? Look::Color::DropZoneHighlight : Look::Color::DropZoneGround));
     painter.drawRoundedRect(frame, 18, 18);
 
     // The stack, its badge included, sits in the middle of the frame.
@@ -98,10 +94,10 @@ void BRDragAndDropImageView::paintEvent(QPaintEvent *)
 
     // A badge with an arrow into the stack: what to do with the files.
     const QPointF badgeCentre = middle + QPointF(54, 38);
-    painter.setPen(QPen(Qt::white, 3));
-    painter.setBrush(accent(1.0));
+    painter.setPen(QPen(Look::color(Look::Color::TextOnColor), 3));
+    painter.setBrush(Look::color(Look::Color::Accent));
     painter.drawEllipse(badgeCentre, 17, 17);
-    QPen arrow(Qt::white, 2.5);
+    QPen arrow(Look::color(Look::Color::TextOnColor), 2.5);
     arrow.setCapStyle(Qt::RoundCap);
     arrow.setJoinStyle(Qt::RoundJoin);
     painter.setPen(arrow);

@@ -1,33 +1,15 @@
 #include "BRDragAndDropView.h"
 
-#include "BRColorHelper.h"
 #include "BRDragAndDropImageView.h"
 #include "BRRenameViewRenameButton.h"
 #include "FileUrlDrag.h"
+#include "Look.h"
 #include "OpenPanel.h"
-#include "RenameFont.h"
 #include "RenameNotificationCenter.h"
 
 #include <QDropEvent>
 #include <QLabel>
 #include <QVBoxLayout>
-
-namespace {
-
-QLabel *makeLabel(const QString &objectName, const QString &text, const QFont &font,
-                  const QColor &color, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setObjectName(objectName);
-    label->setAlignment(Qt::AlignCenter);
-    label->setFont(font);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, color);
-    label->setPalette(palette);
-    return label;
-}
-
-} // namespace
 
 BRDragAndDropView::BRDragAndDropView(RenameNotificationCenter *center, OpenPanel &openPanel,
                                      QWidget *parent)
@@ -40,18 +22,19 @@ BRDragAndDropView::BRDragAndDropView(RenameNotificationCenter *center, OpenPanel
     setAcceptDrops(true);
     m_view->setObjectName(QStringLiteral("view"));
 
-    QLabel *headline = makeLabel(QStringLiteral("invitationLabel"),
-                                 QStringLiteral("Drop files and folders here to rename them"),
-                                 RenameFont::helveticaNeue(22, QFont::Medium),
-                                 BRColorHelper::color(38, 44, 56, 1.0), m_view);
+    QLabel *headline = Look::label(m_view, 22, QFont::Medium, Look::Color::PrimaryText,
+                                   QStringLiteral("Drop files and folders here to rename them"));
+    headline->setObjectName(QStringLiteral("invitationLabel"));
     QLabel *detail =
-        makeLabel(QStringLiteral("detailLabel"),
-                  QStringLiteral("You see every new name before anything on disk changes."),
-                  RenameFont::helveticaNeue(14), BRColorHelper::color(0, 0, 0, 0.5), m_view);
+        Look::label(m_view, 14, QFont::Normal, Look::Color::SecondaryText,
+                    QStringLiteral("You see every new name before anything on disk changes."));
+    detail->setObjectName(QStringLiteral("detailLabel"));
+    for (QLabel *label : {headline, detail})
+        label->setAlignment(Qt::AlignCenter);
 
     m_browseButton->setObjectName(QStringLiteral("browseButton"));
     m_browseButton->setText(QStringLiteral("Choose Files…"));
-    m_browseButton->setFont(RenameFont::helveticaNeue(17));
+    m_browseButton->setFont(Look::font(17));
     m_browseButton->setMinimumWidth(200);
     m_browseButton->setCursor(Qt::PointingHandCursor);
 

@@ -1,9 +1,8 @@
 #include "BRFilePreviewPopoverViewController.h"
 
-#include "BRColorHelper.h"
 #include "BRRenameRoundedTextField.h"
 #include "BRRenameViewDelegate.h"
-#include "RenameFont.h"
+#include "Look.h"
 #include "RenameRowStyle.h"
 
 #include <QLabel>
@@ -12,16 +11,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QLabel *makeCaption(const QString &text, QWidget *parent)
-{
-    auto *caption = new QLabel(text, parent);
-    caption->setFont(RenameFont::helveticaNeue(11));
-    QPalette palette = caption->palette();
-    palette.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.45));
-    caption->setPalette(palette);
-    return caption;
-}
 
 // The picture fitted into the rounded square, corners included; a small picture is not
 // blown up into a blur. Without one, the soft square alone stands in.
@@ -36,7 +25,7 @@ QPixmap framedImage(const QImage &image, qreal ratio)
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     QPainterPath outline;
     outline.addRoundedRect(QRectF(0, 0, side, side), 8, 8);
-    painter.fillPath(outline, BRColorHelper::color(240, 241, 243, 1.0));
+    painter.fillPath(outline, Look::color(Look::Color::ThumbnailWell));
     if (!image.isNull()) {
         QSizeF shown = QSizeF(image.size()) / image.devicePixelRatio();
         if (shown.width() > side || shown.height() > side)
@@ -66,24 +55,16 @@ BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *
     m_renameFileCurrentLabel->setObjectName(QStringLiteral("renameFileCurrentLabel"));
     m_renameFileCurrentLabel->setTextFormat(Qt::PlainText);
     m_renameFileCurrentLabel->setFixedWidth(imageSide);
-    m_renameFileCurrentLabel->setFont(RenameFont::helveticaNeue(15, QFont::Medium));
-    QPalette namePalette = m_renameFileCurrentLabel->palette();
-    namePalette.setColor(QPalette::WindowText, RenameRowStyle::sourceNameColor());
-    m_renameFileCurrentLabel->setPalette(namePalette);
+    Look::setTextStyle(m_renameFileCurrentLabel, 15, QFont::Medium, Look::Color::PrimaryText);
 
     m_renameFileNewNameTextField->setObjectName(QStringLiteral("renameFileNewNameTextField"));
     m_renameFileNewNameTextField->setAccessibleName(QStringLiteral("New Name"));
     m_renameFileNewNameTextField->setPlaceholderText(RenameRowStyle::placeholderText());
-    m_renameFileNewNameTextField->setFont(RenameFont::helveticaNeue(15));
+    m_renameFileNewNameTextField->setFont(Look::font(15));
     m_renameFileNewNameTextField->setFixedWidth(imageSide);
     m_renameFileNewNameTextField->setMinimumHeight(32);
     // No focus ring: the field is the only one here, and the popover says where it is.
     m_renameFileNewNameTextField->setAttribute(Qt::WA_MacShowFocusRect, false);
-    m_renameFileNewNameTextField->setStyleSheet(
-        QStringLiteral("QLineEdit { border: 1px solid rgba(128, 128, 128, 0.5);"
-                       " border-radius: 5px; padding: 3px 6px; background: white; }"
-                       " QLineEdit:read-only { background: rgb(246, 247, 249);"
-                       " border-color: rgba(128, 128, 128, 0.25); }"));
     m_renameFileNewNameTextField->setReadOnly(true);
     QPalette fieldPalette = m_renameFileNewNameTextField->palette();
     fieldPalette.setColor(QPalette::Text, RenameRowStyle::sourceNameColor());
@@ -95,11 +76,13 @@ BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *
     layout->setSpacing(0);
     layout->addWidget(m_renameFileImageView);
     layout->addSpacing(12);
-    layout->addWidget(makeCaption(QStringLiteral("Current name"), this));
+    layout->addWidget(Look::label(this, 11, QFont::Normal, Look::Color::SecondaryText,
+                                  QStringLiteral("Current name")));
     layout->addSpacing(2);
     layout->addWidget(m_renameFileCurrentLabel);
     layout->addSpacing(10);
-    layout->addWidget(makeCaption(QStringLiteral("New name"), this));
+    layout->addWidget(Look::label(this, 11, QFont::Normal, Look::Color::SecondaryText,
+                                  QStringLiteral("New name")));
     layout->addSpacing(4);
     layout->addWidget(m_renameFileNewNameTextField);
     layout->setSizeConstraint(QLayout::SetFixedSize);

@@ -1,8 +1,7 @@
 #include "BRRenameCompleteView.h"
 
-#include "BRColorHelper.h"
 #include "BRRenameCompleteViewDoneButton.h"
-#include "RenameFont.h"
+#include "Look.h"
 #include "RenameNotificationCenter.h"
 
 #include <QLabel>
@@ -22,9 +21,9 @@ QPixmap badge(qreal ratio)
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(BRColorHelper::color(31, 201, 126, 1.0));
+    painter.setBrush(Look::color(Look::Color::Accent));
     painter.drawEllipse(QRectF(1, 1, badgeSide - 2, badgeSide - 2));
-    QPen tick(Qt::white, 5);
+    QPen tick(Look::color(Look::Color::TextOnColor), 5);
     tick.setCapStyle(Qt::RoundCap);
     tick.setJoinStyle(Qt::RoundJoin);
     painter.setPen(tick);
@@ -48,25 +47,19 @@ BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWi
     badgeView->setPixmap(badge(devicePixelRatioF()));
     badgeView->setAlignment(Qt::AlignCenter);
 
-    auto *headline = new QLabel(QStringLiteral("Renaming done"), m_completeView);
+    QLabel *headline = Look::label(m_completeView, 24, QFont::Medium, Look::Color::PrimaryText,
+                                   QStringLiteral("Renaming done"));
     headline->setObjectName(QStringLiteral("headlineLabel"));
     headline->setAlignment(Qt::AlignCenter);
-    headline->setFont(RenameFont::helveticaNeue(24, QFont::Medium));
-    QPalette headlinePalette = headline->palette();
-    headlinePalette.setColor(QPalette::WindowText, BRColorHelper::color(38, 44, 56, 1.0));
-    headline->setPalette(headlinePalette);
 
     m_renameStatusLabel->setObjectName(QStringLiteral("renameStatusLabel"));
     m_renameStatusLabel->setAlignment(Qt::AlignCenter);
     m_renameStatusLabel->setTextFormat(Qt::PlainText);
-    m_renameStatusLabel->setFont(RenameFont::helveticaNeue(13));
-    QPalette statusPalette = m_renameStatusLabel->palette();
-    statusPalette.setColor(QPalette::WindowText, BRColorHelper::color(178, 178, 178, 0.85));
-    m_renameStatusLabel->setPalette(statusPalette);
+    Look::setTextStyle(m_renameStatusLabel, 13, QFont::Normal, Look::Color::SecondaryText);
 
     m_doneButton->setObjectName(QStringLiteral("doneButton"));
     m_doneButton->setText(QStringLiteral("Done"));
-    m_doneButton->setFont(RenameFont::helveticaNeue(15));
+    m_doneButton->setFont(Look::font(15));
     m_doneButton->setMinimumWidth(140);
     m_doneButton->setCursor(Qt::PointingHandCursor);
     m_doneButton->setDefault(true);

@@ -2,6 +2,7 @@
 
 #include "BRRenameViewDelegate.h"
 #include "CustomTextField.h"
+#include "LookStyleSheets.h"
 #include "RenameRowStyle.h"
 
 #include <QEnterEvent>
@@ -26,7 +27,7 @@ QToolButton *makeImageButton(const QString &objectName, const QString &accessibl
     button->setCursor(Qt::PointingHandCursor);
     // A click on a control of the row leaves a name being typed where it is.
     button->setFocusPolicy(Qt::NoFocus);
-    button->setStyleSheet(RenameRowStyle::toolButtonStyleSheet());
+    button->setStyleSheet(Look::StyleSheet::toolButton());
     return button;
 }
 

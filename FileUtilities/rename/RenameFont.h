@@ -4,6 +4,7 @@
 
 // The rename screen's one typeface. Sizes are given in pixels: the designs were drawn on a
 // display where a point is a pixel, and at 96 dpi the same points come out a third larger.
+// Look::font in Look.h replaces it; it stays until the rename screen itself moves there.
 class RenameFont
 {
 public:

@@ -1,9 +1,8 @@
 #include "RenamePanelControls.h"
 
-#include "BRColorHelper.h"
 #include "BRRenameDisableVibrancePopUpButton.h"
 #include "BRRenameRoundedTextField.h"
-#include "RenameFont.h"
+#include "Look.h"
 #include "RenameRecord.h"
 
 #include <QHBoxLayout>
@@ -19,7 +18,7 @@ BRRenameDisableVibrancePopUpButton *RenamePanelControls::makeRuleSwitch(const QS
     ruleSwitch->setAccessibleName(QStringLiteral("Rule"));
     ruleSwitch->addItem(ownRule);
     ruleSwitch->addItem(otherRule);
-    ruleSwitch->setFont(RenameFont::helveticaNeue(15));
+    ruleSwitch->setFont(Look::font(15));
     ruleSwitch->setMinimumHeight(fieldHeight);
     ruleSwitch->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     ruleSwitch->setCursor(Qt::PointingHandCursor);
@@ -33,7 +32,7 @@ BRRenameDisableVibrancePopUpButton *RenamePanelControls::makeWherePopup(QWidget 
     where->setAccessibleName(QStringLiteral("Where"));
     where->addItem(RenameTexts::afterName);
     where->addItem(RenameTexts::beforeName);
-    where->setFont(RenameFont::helveticaNeue(15));
+    where->setFont(Look::font(15));
     where->setMinimumHeight(fieldHeight);
     where->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     where->setCursor(Qt::PointingHandCursor);
@@ -55,12 +54,7 @@ BRRenameRoundedTextField *RenamePanelControls::makeTextField(const QString &obje
 
 QLabel *RenamePanelControls::makeCaption(const QString &text, QWidget *parent)
 {
-    auto *caption = new QLabel(text, parent);
-    caption->setFont(RenameFont::helveticaNeue(15));
-    QPalette palette = caption->palette();
-    palette.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.55));
-    caption->setPalette(palette);
-    return caption;
+    return Look::label(parent, 15, QFont::Normal, Look::Color::SecondaryText, text);
 }
 
 QBoxLayout *RenamePanelControls::makePanelLayout(QWidget *panel)
@@ -74,17 +68,15 @@ QBoxLayout *RenamePanelControls::makePanelLayout(QWidget *panel)
 void RenamePanelControls::applyFieldAttributes(QLineEdit *field)
 {
     // The placeholder takes the field's font; the typed text reads at the same size.
-    field->setFont(RenameFont::helveticaNeue(18));
+    field->setFont(Look::font(18));
     field->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    QPalette palette = field->palette();
-    palette.setColor(QPalette::PlaceholderText, BRColorHelper::color(155, 155, 155, 1.0));
-    field->setPalette(palette);
+    Look::setTextColor(field, Look::Color::Placeholder, QPalette::PlaceholderText);
 }
 
 void RenamePanelControls::applyRuleSwitchAttributes(QComboBox *ruleSwitch)
 {
     if (ruleSwitch->count() < 2)
         return;
-    ruleSwitch->setItemData(1, RenameFont::helveticaNeue(15), Qt::FontRole);
-    ruleSwitch->setItemData(1, QColor(Qt::black), Qt::ForegroundRole);
+    ruleSwitch->setItemData(1, Look::font(15), Qt::FontRole);
+    ruleSwitch->setItemData(1, Look::color(Look::Color::PrimaryText), Qt::ForegroundRole);
 }

@@ -28,8 +28,8 @@ public:
     // The row the controls stand in; the panel's own layout.
     static QBoxLayout *makePanelLayout(QWidget *panel);
 
-    // Placeholders left-aligned in 18-pixel Helvetica Neue, grey 155; the switch's other
-    // rule in 15-pixel black.
+    // Placeholders left-aligned at 18 pixels in the placeholder grey; the switch's other
+    // rule at 15 pixels in the primary text colour.
     static void applyFieldAttributes(QLineEdit *field);
     static void applyRuleSwitchAttributes(QComboBox *ruleSwitch);
 

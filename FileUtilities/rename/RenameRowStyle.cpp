@@ -1,7 +1,7 @@
 #include "RenameRowStyle.h"
 
-#include "BRColorHelper.h"
-#include "RenameFont.h"
+#include "Look.h"
+#include "LookStyleSheets.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -69,32 +69,32 @@ RenameRowStyle::Geometry RenameRowStyle::geometry(const QRect &row)
 
 QFont RenameRowStyle::sourceNameFont()
 {
-    return RenameFont::helveticaNeue(15);
+    return Look::font(15);
 }
 
 QColor RenameRowStyle::sourceNameColor()
 {
-    return BRColorHelper::color(38, 44, 56, 1.0);
+    return Look::color(Look::Color::PrimaryText);
 }
 
 QFont RenameRowStyle::newNameFont()
 {
-    return RenameFont::helveticaNeueMedium(18);
+    return Look::font(18, QFont::Medium);
 }
 
 QColor RenameRowStyle::ruleNameColor()
 {
-    return BRColorHelper::color(31, 201, 126, 1.0);
+    return Look::color(Look::Color::RuleName);
 }
 
 QColor RenameRowStyle::editedNameColor()
 {
-    return BRColorHelper::color(33, 193, 249, 1.0);
+    return Look::color(Look::Color::HandEditedName);
 }
 
 QColor RenameRowStyle::placeholderColor()
 {
-    return BRColorHelper::color(107, 107, 107, 1.0);
+    return Look::color(Look::Color::NewNamePlaceholder);
 }
 
 QString RenameRowStyle::placeholderText()
@@ -108,25 +108,20 @@ QString RenameRowStyle::newNameFieldStyleSheet()
     // moving the text by a pixel.
     return QStringLiteral("QLineEdit { border: %1px solid transparent; border-radius: 6px;"
                           " padding: 0px %2px; background: transparent; }"
-                          " QLineEdit:hover:!read-only { border-color: rgba(0, 0, 0, 0.10); }"
-                          " QLineEdit:focus { border-color: rgba(0, 0, 0, 0.22);"
-                          " background: white; }")
+                          " QLineEdit:hover:!read-only { border-color: %3; }"
+                          " QLineEdit:focus { border-color: %4; background: %5; }")
         .arg(fieldBorder)
-        .arg(fieldPadding);
-}
-
-QString RenameRowStyle::toolButtonStyleSheet()
-{
-    return QStringLiteral("QToolButton { border: none; background: transparent; padding: 0px; }"
-                          " QToolButton:hover { background: rgba(0, 0, 0, 0.06);"
-                          " border-radius: 6px; }"
-                          " QToolButton:pressed { background: rgba(0, 0, 0, 0.12); }");
+        .arg(fieldPadding)
+        .arg(Look::StyleSheet::colorValue(Look::Color::FieldHoverBorder),
+             Look::StyleSheet::colorValue(Look::Color::FieldFocusBorder),
+             Look::StyleSheet::colorValue(Look::Color::FieldGround));
 }
 
 void RenameRowStyle::paintGround(QPainter *painter, const QRect &row, bool hovered)
 {
-    painter->fillRect(row, hovered ? BRColorHelper::color(247, 248, 250, 1.0) : QColor(Qt::white));
-    painter->setPen(BRColorHelper::color(0, 0, 0, 0.08));
+    painter->fillRect(
+        row, Look::color(hovered ? Look::Color::RenameRowHover : Look::Color::WindowGround));
+    painter->setPen(Look::color(Look::Color::RowSeparator));
     painter->drawLine(row.left() + gap, row.bottom(), row.right() - gap, row.bottom());
 }
 
@@ -137,7 +132,7 @@ void RenameRowStyle::paintThumbnail(QPainter *painter, const QRect &frame, const
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     QPainterPath outline;
     outline.addRoundedRect(frame, thumbnailRadius, thumbnailRadius);
-    painter->fillPath(outline, BRColorHelper::color(240, 241, 243, 1.0));
+    painter->fillPath(outline, Look::color(Look::Color::ThumbnailWell));
     if (!image.isNull()) {
         const QSize fitted = image.size().scaled(frame.size(), Qt::KeepAspectRatio);
         QRect target(QPoint(0, 0), fitted);
@@ -152,7 +147,7 @@ void RenameRowStyle::paintArrow(QPainter *painter, const QRect &rect)
 {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    QPen pen(BRColorHelper::color(0, 0, 0, 0.28), 1.5);
+    QPen pen(Look::color(Look::Color::ArrowMark), 1.5);
     pen.setCapStyle(Qt::RoundCap);
     pen.setJoinStyle(Qt::RoundJoin);
     painter->setPen(pen);
@@ -219,7 +214,7 @@ QIcon RenameRowStyle::popoverIcon()
 {
     // An eye: the control opens a larger look at the file.
     return iconOf(20, [](QPainter &painter, qreal side) {
-        QPen pen(BRColorHelper::color(0, 0, 0, 0.45), 1.5);
+        QPen pen(Look::color(Look::Color::ControlMark), 1.5);
         pen.setJoinStyle(Qt::RoundJoin);
         painter.setPen(pen);
         const qreal middle = side / 2;
@@ -228,7 +223,7 @@ QIcon RenameRowStyle::popoverIcon()
         eye.quadTo(middle, middle - 9, side - 2, middle);
         eye.quadTo(middle, middle + 9, 2, middle);
         painter.drawPath(eye);
-        painter.setBrush(BRColorHelper::color(0, 0, 0, 0.45));
+        painter.setBrush(Look::color(Look::Color::ControlMark));
         painter.drawEllipse(QPointF(middle, middle), 2.6, 2.6);
     });
 }
@@ -238,9 +233,9 @@ QIcon RenameRowStyle::removeIcon()
     // A grey disc with a white cross, as lists mark an entry that can be taken out.
     return iconOf(18, [](QPainter &painter, qreal side) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(BRColorHelper::color(0, 0, 0, 0.30));
+        painter.setBrush(Look::color(Look::Color::RemoveDisc));
         painter.drawEllipse(QRectF(0.5, 0.5, side - 1, side - 1));
-        QPen cross(Qt::white, 1.8);
+        QPen cross(Look::color(Look::Color::TextOnColor), 1.8);
         cross.setCapStyle(Qt::RoundCap);
         painter.setPen(cross);
         const qreal inset = side * 0.33;

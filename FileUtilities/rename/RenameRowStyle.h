@@ -44,7 +44,6 @@ public:
 
     // The new-name field's frame; the painted name is placed by the same numbers.
     static QString newNameFieldStyleSheet();
-    static QString toolButtonStyleSheet();
 
     // The live cell tints the row under the mouse, so the user sees which row answers.
     static void paintGround(QPainter *painter, const QRect &row, bool hovered = false);

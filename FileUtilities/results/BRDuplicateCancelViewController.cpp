@@ -1,8 +1,9 @@
 #include "BRDuplicateCancelViewController.h"
 
-#include "BRColorHelper.h"
 #include "BRDuplicateBarDivider.h"
 #include "BRDuplicateFilesViewDelegate.h"
+#include "Look.h"
+#include "LookStyleSheets.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -28,18 +29,14 @@ BRDuplicateCancelViewController::BRDuplicateCancelViewController(QWidget *parent
     m_progressIndicator->setFixedHeight(6);
     // Most styles draw the busy state as a full bar with faint stripes, which reads as
     // finished; a segment moving along a track says the walk goes on.
-    m_progressIndicator->setStyleSheet(QStringLiteral(
-        "QProgressBar { border: none; border-radius: 3px; background: rgba(0, 0, 0, 0.08); }"
-        "QProgressBar::chunk { background: rgb(57, 188, 25); width: 48px; }"));
+    m_progressIndicator->setStyleSheet(Look::StyleSheet::progressTrack());
     m_progressIndicator->setRange(0, 1);
     m_progressIndicator->setValue(0);
     // A long path must not widen the window; it is shortened to the room it has.
     m_currentFolderLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_currentFolderLabel->setTextFormat(Qt::PlainText);
     m_currentFolderLabel->installEventFilter(this);
-    QPalette quiet = m_currentFolderLabel->palette();
-    quiet.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.55));
-    m_currentFolderLabel->setPalette(quiet);
+    Look::setTextColor(m_currentFolderLabel, Look::Color::SecondaryText);
 
     auto *line = new BRDuplicateBarDivider(this);
 

@@ -1,7 +1,7 @@
 #include "BRDuplicateFilePreviewTableViewCell.h"
 
-#include "BRColorHelper.h"
 #include "BRDuplicateFilePreviewDelegate.h"
+#include "Look.h"
 
 #include <QCursor>
 #include <QEnterEvent>
@@ -18,16 +18,10 @@
 
 namespace {
 
-QLabel *makeLabel(const QString &objectName, int pixelSize, const QColor &color, QWidget *parent)
+QLabel *makeRowLabel(const QString &objectName, int pixelSize, QWidget *parent)
 {
-    auto *label = new QLabel(parent);
+    QLabel *label = Look::label(parent, pixelSize, QFont::Normal, Look::Color::SecondaryText);
     label->setObjectName(objectName);
-    QFont font(QStringLiteral("Helvetica"));
-    font.setPixelSize(pixelSize);
-    label->setFont(font);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, color);
-    label->setPalette(palette);
     // Clicks on the text belong to the row.
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     return label;
@@ -63,12 +57,10 @@ void setTextColor(QWidget *widget, QPalette::ColorRole role, const QColor &color
 } // namespace
 
 BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget *parent)
-    : QWidget(parent),
-      m_serialLabel(makeLabel(QStringLiteral("serialLabel"), 13, pathColor(), this)),
+    : QWidget(parent), m_serialLabel(makeRowLabel(QStringLiteral("serialLabel"), 13, this)),
       m_pathLabel(makePathLabel(this)), m_deleteButton(new QToolButton(this)),
-      m_byteSizeLabel(makeLabel(QStringLiteral("byteSizeLabel"), 11, QColor(128, 128, 128), this)),
-      m_modifiedDateLabel(
-          makeLabel(QStringLiteral("modifiedDateLabel"), 11, QColor(128, 128, 128), this))
+      m_byteSizeLabel(makeRowLabel(QStringLiteral("byteSizeLabel"), 11, this)),
+      m_modifiedDateLabel(makeRowLabel(QStringLiteral("modifiedDateLabel"), 11, this))
 {
     setObjectName(QStringLiteral("dupeFilePreviewCell"));
     m_serialLabel->setFixedWidth(24);
@@ -110,29 +102,27 @@ BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget
 
 QFont BRDuplicateFilePreviewTableViewCell::pathFont()
 {
-    QFont font(QStringLiteral("Helvetica"));
-    font.setPixelSize(13);
-    return font;
+    return Look::font(13);
 }
 
 QColor BRDuplicateFilePreviewTableViewCell::pathColor()
 {
-    return BRColorHelper::color(99, 99, 99, 0.85);
+    return Look::color(Look::Color::SecondaryText);
 }
 
 QColor BRDuplicateFilePreviewTableViewCell::hoverPathColor()
 {
-    return BRColorHelper::color(0, 0, 0, 1.0);
+    return Look::color(Look::Color::PrimaryText);
 }
 
 QColor BRDuplicateFilePreviewTableViewCell::separatorColor()
 {
-    return BRColorHelper::color(191, 191, 191, 1.0);
+    return Look::color(Look::Color::PathSeparator);
 }
 
 QColor BRDuplicateFilePreviewTableViewCell::deletingColor()
 {
-    return BRColorHelper::color(193, 193, 193, 1.0);
+    return Look::color(Look::Color::DisabledText);
 }
 
 void BRDuplicateFilePreviewTableViewCell::setPathText(const QString &display)
@@ -208,6 +198,6 @@ void BRDuplicateFilePreviewTableViewCell::showEvent(QShowEvent *event)
 void BRDuplicateFilePreviewTableViewCell::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setPen(QColor(0, 0, 0, 20));
+    painter.setPen(Look::color(Look::Color::RowSeparator));
     painter.drawLine(QPoint(m_pathLabel->x(), height() - 1), QPoint(width() - 1, height() - 1));
 }

@@ -1,12 +1,12 @@
 #include "BRDuplicateFilePreviewViewController.h"
 
-#include "BRColorHelper.h"
 #include "BRDuplicateFilePreviewTableViewCell.h"
 #include "BRDuplicateFilesViewDelegate.h"
 #include "BRDuplicatePopOverTableView.h"
 #include "BRQuickLookItem.h"
 #include "ByteCountFormatter.h"
 #include "FilePreviewView.h"
+#include "Look.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -60,13 +60,7 @@ BRDuplicateFilePreviewViewController::BRDuplicateFilePreviewViewController(QWidg
     m_dupePreviewTableView->setFixedHeight(FilePreviewView::side);
 
     m_fileNameLabel->setObjectName(QStringLiteral("fileNameLabel"));
-    QFont nameFont(QStringLiteral("Helvetica"));
-    nameFont.setPixelSize(15);
-    nameFont.setBold(true);
-    m_fileNameLabel->setFont(nameFont);
-    QPalette namePalette = m_fileNameLabel->palette();
-    namePalette.setColor(QPalette::WindowText, BRColorHelper::color(45, 45, 45, 1.0));
-    m_fileNameLabel->setPalette(namePalette);
+    Look::setTextStyle(m_fileNameLabel, 15, QFont::Bold, Look::Color::PrimaryText);
     m_fileNameLabel->setTextFormat(Qt::PlainText);
     m_fileNameLabel->setFixedWidth(FilePreviewView::side + margin +
                                    m_dupePreviewTableView->width());

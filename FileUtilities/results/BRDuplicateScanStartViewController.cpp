@@ -1,12 +1,12 @@
 #include "BRDuplicateScanStartViewController.h"
 
-#include "BRAttributedTitle.h"
-#include "BRColorHelper.h"
 #include "BRDuplicateFilesViewDelegate.h"
 #include "BRDuplicateStartScanButton.h"
 #include "BRDuplicateTabViewController.h"
 #include "BRObjectClass.h"
 #include "BRRealHomeDirectory.h"
+#include "Look.h"
+#include "LookStyleSheets.h"
 #include "OpenPanel.h"
 #include "ViewFader.h"
 
@@ -49,16 +49,14 @@ BRDuplicateScanStartViewController::BRDuplicateScanStartViewController(OpenPanel
     m_dirImageView->setAlignment(Qt::AlignCenter);
     m_selectedFolderNameLabel->setAlignment(Qt::AlignCenter);
     m_selectedFolderNameLabel->setTextFormat(Qt::PlainText);
-    m_selectedFolderNameLabel->setFont(BRAttributedTitle::font(17));
+    Look::setTextStyle(m_selectedFolderNameLabel, 23, QFont::Normal, Look::Color::PrimaryText);
     m_startScanButton->setMinimumSize(220, 52);
     m_startScanButton->setCursor(Qt::PointingHandCursor);
     // A link under the main button: choosing another folder is the lesser action.
     m_browseButton->setFlat(true);
     m_browseButton->setCursor(Qt::PointingHandCursor);
-    m_browseButton->setFont(BRAttributedTitle::font(14));
-    m_browseButton->setStyleSheet(
-        QStringLiteral("QPushButton { color: rgb(31, 140, 201); border: none; padding: 4px; }"
-                       "QPushButton:hover { text-decoration: underline; }"));
+    m_browseButton->setFont(Look::font(19));
+    m_browseButton->setStyleSheet(Look::StyleSheet::linkButton());
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(40, 40, 40, 40);
@@ -99,7 +97,8 @@ void BRDuplicateScanStartViewController::setScanStartView()
 
 void BRDuplicateScanStartViewController::setStartScanButtonTitle(const QString &title)
 {
-    BRAttributedTitle::apply(m_startScanButton, title, Qt::white, 20);
+    m_startScanButton->setText(title);
+    Look::setTextStyle(m_startScanButton, 27, QFont::Normal, Look::Color::TextOnColor);
 }
 
 void BRDuplicateScanStartViewController::setSelectedUrl(const QUrl &url)

@@ -1,10 +1,9 @@
 #include "BRDuplicateScanStatusViewController.h"
 
-#include "BRAttributedTitle.h"
-#include "BRColorHelper.h"
 #include "BRDuplicateScanStartViewController.h"
 #include "BRDuplicateStatusViewNewScanButton.h"
 #include "BRDuplicateTabViewController.h"
+#include "Look.h"
 #include "ViewFader.h"
 
 #include <QLabel>
@@ -23,13 +22,10 @@ BRDuplicateScanStatusViewController::BRDuplicateScanStatusViewController(QWidget
     m_newScanButton->setObjectName(QStringLiteral("newScanButton"));
 
     m_statusLabel->setAlignment(Qt::AlignCenter);
-    m_statusLabel->setFont(BRAttributedTitle::font(22));
+    Look::setTextStyle(m_statusLabel, 29, QFont::Normal, Look::Color::PrimaryText);
     m_directoryLabel->setAlignment(Qt::AlignCenter);
     m_directoryLabel->setTextFormat(Qt::PlainText);
-    m_directoryLabel->setFont(BRAttributedTitle::font(15));
-    QPalette quiet = m_directoryLabel->palette();
-    quiet.setColor(QPalette::WindowText, BRColorHelper::color(0, 0, 0, 0.6));
-    m_directoryLabel->setPalette(quiet);
+    Look::setTextStyle(m_directoryLabel, 20, QFont::Normal, Look::Color::SecondaryText);
     m_newScanButton->setMinimumSize(160, 40);
     m_newScanButton->setCursor(Qt::PointingHandCursor);
 
@@ -50,7 +46,8 @@ BRDuplicateScanStatusViewController::BRDuplicateScanStatusViewController(QWidget
 
 void BRDuplicateScanStatusViewController::setNewScanButtonTitle(const QString &title)
 {
-    BRAttributedTitle::apply(m_newScanButton, title, Qt::white, 15);
+    m_newScanButton->setText(title);
+    Look::setTextStyle(m_newScanButton, 20, QFont::Normal, Look::Color::TextOnColor);
 }
 
 // This screen stays faded out while it is out of sight; the results screen brings it

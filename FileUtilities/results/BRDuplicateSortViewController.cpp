@@ -1,10 +1,9 @@
 #include "BRDuplicateSortViewController.h"
 
-#include "BRAttributedTitle.h"
-#include "BRColorHelper.h"
 #include "BRDuplicateBarDivider.h"
 #include "BRDuplicateFilesViewDelegate.h"
 #include "BRDuplicateSortPopUpButton.h"
+#include "Look.h"
 
 #include <QFile>
 #include <QFrame>
@@ -25,26 +24,12 @@ const QString musicKey = QStringLiteral("music");
 const QString documentKey = QStringLiteral("document");
 const QString folderKey = QStringLiteral("folder");
 
-constexpr int titlePointSize = 16;
+constexpr int titlePixelSize = 16;
 
-// The title sizes come from the Mac, where a point is a pixel; at 96 dpi the same points
-// come out a third larger and crowd the 24-pixel icons beside them.
-void applyTitle(QAbstractButton *button, const QString &title, const QColor &color)
+void applyTitle(QAbstractButton *button, const QString &title, Look::Color color)
 {
-    BRAttributedTitle::apply(button, title, color, titlePointSize);
-    QFont font = button->font();
-    font.setPixelSize(titlePointSize);
-    button->setFont(font);
-}
-
-QColor allSelectedColor()
-{
-    return BRColorHelper::color(57, 188, 25, 1.0);
-}
-
-QColor allUnselectedColor()
-{
-    return BRColorHelper::color(0, 0, 0, 0.6);
+    button->setText(title);
+    Look::setTextStyle(button, titlePixelSize, QFont::Normal, color);
 }
 
 // The images of the four image buttons, selected first.
@@ -174,7 +159,7 @@ void BRDuplicateSortViewController::setDuplicateFileViewDelegate(
 
 void BRDuplicateSortViewController::setButtonTextColor()
 {
-    applyTitle(m_newScanButton, QStringLiteral("New"), Qt::black);
+    applyTitle(m_newScanButton, QStringLiteral("New"), Look::Color::PrimaryText);
     applyLook(allKey, true);
 }
 
@@ -300,7 +285,7 @@ void BRDuplicateSortViewController::applyLook(const QString &key, bool selected)
 {
     if (key == allKey) {
         applyTitle(m_allButton, QStringLiteral("All"),
-                   selected ? allSelectedColor() : allUnselectedColor());
+                   selected ? Look::Color::DuplicatesAccent : Look::Color::SecondaryText);
     } else if (const auto images = imagesForKey(key)) {
         QToolButton *button = imageButtonForKey(key);
         const QString path = QStringLiteral(":/images/") +

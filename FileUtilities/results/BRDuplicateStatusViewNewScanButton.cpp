@@ -1,9 +1,9 @@
 #include "BRDuplicateStatusViewNewScanButton.h"
 
+#include "LookStyleSheets.h"
+
 BRDuplicateStatusViewNewScanButton::BRDuplicateStatusViewNewScanButton(QWidget *parent)
     : QPushButton(parent)
 {
-    setStyleSheet(
-        QStringLiteral("QPushButton { color: white; background: rgba(0, 0, 0, 0.6); border: none;"
-                       " border-radius: 5px; padding: 8px 18px; }"));
+    setStyleSheet(Look::StyleSheet::filledButton(Look::Color::DarkButtonGround));
 }

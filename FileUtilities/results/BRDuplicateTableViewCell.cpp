@@ -1,10 +1,10 @@
 #include "BRDuplicateTableViewCell.h"
 
-#include "BRColorHelper.h"
 #include "BRNoSearchResultCell.h"
 #include "ByteCountFormatter.h"
 #include "DuplicateTableModel.h"
 #include "GroupRecord.h"
+#include "Look.h"
 #include "ThumbnailLoader.h"
 #include "UniformTypes.h"
 
@@ -16,14 +16,6 @@ namespace {
 
 constexpr int thumbnailSide = 72;
 constexpr int bulletSide = 38;
-
-QFont fontOf(int pixelSize, QFont::Weight weight = QFont::Normal)
-{
-    QFont font(QStringLiteral("Helvetica Neue"));
-    font.setPixelSize(pixelSize);
-    font.setWeight(weight);
-    return font;
-}
 
 } // namespace
 
@@ -93,8 +85,8 @@ void BRDuplicateTableViewCell::paintGroup(QPainter *painter, const QRect &rect,
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     if (hovered)
-        painter->fillRect(rect, BRColorHelper::color(57, 188, 25, 0.06));
-    painter->setPen(BRColorHelper::color(0, 0, 0, 0.08));
+        painter->fillRect(rect, Look::color(Look::Color::DuplicateRowHover));
+    painter->setPen(Look::color(Look::Color::RowSeparator));
     painter->drawLine(rect.left() + 20, rect.bottom(), rect.right() - 20, rect.bottom());
 
     // The picture, framed; a soft square stands in until it is made.
@@ -103,7 +95,7 @@ void BRDuplicateTableViewCell::paintGroup(QPainter *painter, const QRect &rect,
     const QImage image = m_thumbnails.imageFor(record.thumbNail);
     QPainterPath frame;
     frame.addRoundedRect(thumbRect, 6, 6);
-    painter->fillPath(frame, BRColorHelper::color(240, 241, 243, 1.0));
+    painter->fillPath(frame, Look::color(Look::Color::ThumbnailWell));
     if (!image.isNull()) {
         const QSize fitted = image.size().scaled(thumbRect.size(), Qt::KeepAspectRatio);
         QRect target(QPoint(0, 0), fitted);
@@ -122,12 +114,12 @@ void BRDuplicateTableViewCell::paintGroup(QPainter *painter, const QRect &rect,
     const auto drawColumn = [painter](const QRect &column, const QString &caption,
                                       const QString &value) {
         const int middle = column.center().y();
-        painter->setFont(fontOf(11));
-        painter->setPen(BRColorHelper::color(0, 0, 0, 0.45));
+        painter->setFont(Look::font(11));
+        painter->setPen(Look::color(Look::Color::SecondaryText));
         painter->drawText(QRect(column.left(), middle - 22, column.width(), 16),
                           Qt::AlignRight | Qt::AlignVCenter, caption);
-        painter->setFont(fontOf(15, QFont::Medium));
-        painter->setPen(BRColorHelper::color(38, 44, 56, 1.0));
+        painter->setFont(Look::font(15, QFont::Medium));
+        painter->setPen(Look::color(Look::Color::PrimaryText));
         painter->drawText(QRect(column.left(), middle - 4, column.width(), 22),
                           Qt::AlignRight | Qt::AlignVCenter, value);
     };
@@ -139,22 +131,22 @@ void BRDuplicateTableViewCell::paintGroup(QPainter *painter, const QRect &rect,
                            rect.top() + (rect.height() - bulletSide) / 2, bulletSide, bulletSide);
     const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
     painter->drawPixmap(bulletRect, bulletPixmap(texts.bulletImage, bulletSide, ratio));
-    painter->setFont(fontOf(15, QFont::Medium));
-    painter->setPen(Qt::white);
+    painter->setFont(Look::font(15, QFont::Medium));
+    painter->setPen(Look::color(Look::Color::TextOnColor));
     painter->drawText(bulletRect, Qt::AlignCenter, texts.fileCount);
 
     // Name and kind between the picture and the bullet.
     const int textLeft = thumbRect.right() + 20;
     const int textWidth = qMax(0, bulletRect.left() - 20 - textLeft);
     const int middle = rect.center().y();
-    painter->setFont(fontOf(16, QFont::Medium));
-    painter->setPen(BRColorHelper::color(38, 44, 56, 1.0));
+    painter->setFont(Look::font(16, QFont::Medium));
+    painter->setPen(Look::color(Look::Color::PrimaryText));
     const QString name =
         painter->fontMetrics().elidedText(texts.fileName, Qt::ElideMiddle, textWidth);
     painter->drawText(QRect(textLeft, middle - 24, textWidth, 24), Qt::AlignLeft | Qt::AlignVCenter,
                       name);
-    painter->setFont(fontOf(12));
-    painter->setPen(BRColorHelper::color(0, 0, 0, 0.5));
+    painter->setFont(Look::font(12));
+    painter->setPen(Look::color(Look::Color::SecondaryText));
     const QString kind =
         painter->fontMetrics().elidedText(record.fileType, Qt::ElideRight, textWidth);
     painter->drawText(QRect(textLeft, middle + 2, textWidth, 20), Qt::AlignLeft | Qt::AlignVCenter,

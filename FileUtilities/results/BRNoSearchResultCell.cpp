@@ -1,6 +1,6 @@
 #include "BRNoSearchResultCell.h"
 
-#include "BRColorHelper.h"
+#include "Look.h"
 
 #include <QPainter>
 
@@ -12,10 +12,8 @@ QString BRNoSearchResultCell::text()
 void BRNoSearchResultCell::paint(QPainter *painter, const QRect &rect, const QString &text)
 {
     painter->save();
-    QFont font(QStringLiteral("Helvetica Neue"));
-    font.setPixelSize(13);
-    painter->setFont(font);
-    painter->setPen(BRColorHelper::color(99, 99, 99, 1.0));
+    painter->setFont(Look::font(13));
+    painter->setPen(Look::color(Look::Color::SecondaryText));
     painter->drawText(rect, Qt::AlignCenter, text);
     painter->restore();
 }

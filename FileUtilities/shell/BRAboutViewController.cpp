@@ -3,6 +3,7 @@
 #include "BRAboutScreenContactAndTermsOfUseButton.h"
 #include "BRAboutScreenMoreAppsButton.h"
 #include "BRObjectClass.h"
+#include "Look.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
@@ -13,14 +14,12 @@
 namespace {
 
 template <typename Button>
-Button *makeLinkButton(const QString &objectName, const QString &title, int pointSize,
+Button *makeLinkButton(const QString &objectName, const QString &title, int pixelSize,
                        QWidget *parent)
 {
     auto *button = new Button(title, parent);
     button->setObjectName(objectName);
-    QFont font = button->font();
-    font.setPointSize(pointSize);
-    button->setFont(font);
+    button->setFont(Look::font(pixelSize));
     return button;
 }
 
@@ -30,18 +29,16 @@ BRAboutViewController::BRAboutViewController(Workspace &workspace, QWidget *pare
     : BRImageBackgroundView(QStringLiteral("intro_bg"), Tone::Dark, parent),
       m_versionLabel(new QLabel(versionText(), this)),
       m_contactSupportButton(makeLinkButton<BRAboutScreenContactAndTermsOfUseButton>(
-          QStringLiteral("contactSupportButton"), QStringLiteral("Contact Support"), 13, this)),
+          QStringLiteral("contactSupportButton"), QStringLiteral("Contact Support"), 17, this)),
       m_termsOfUseButton(makeLinkButton<BRAboutScreenContactAndTermsOfUseButton>(
-          QStringLiteral("termsOfUseButton"), QStringLiteral("Terms of Use"), 13, this)),
+          QStringLiteral("termsOfUseButton"), QStringLiteral("Terms of Use"), 17, this)),
       m_urlButton(makeLinkButton<BRAboutScreenMoreAppsButton>(
-          QStringLiteral("urlButton"), QStringLiteral("More Apps from Brackenhale"), 14, this))
+          QStringLiteral("urlButton"), QStringLiteral("More Apps from Brackenhale"), 19, this))
 {
     setObjectName(QStringLiteral("BRAboutViewController"));
     m_versionLabel->setObjectName(QStringLiteral("versionLabel"));
     auto *name = new QLabel(QStringLiteral("Quillmere"), this);
-    QFont nameFont = name->font();
-    nameFont.setPointSizeF(nameFont.pointSizeF() * 2);
-    name->setFont(nameFont);
+    name->setFont(Look::font(24));
 
     auto *links = new QHBoxLayout;
     links->addWidget(m_contactSupportButton);

@@ -1,6 +1,7 @@
 #include "BRIntroViewController.h"
 
 #include "BRIntroGotItButton.h"
+#include "Look.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -13,9 +14,8 @@ BRIntroViewController::BRIntroViewController(QWidget *parent)
     m_gotItButton->setObjectName(QStringLiteral("gotItButton"));
     m_gotItButton->setText(QStringLiteral("Got it!"));
     auto *title = new QLabel(tr("Welcome to Quillmere"), this);
-    QFont titleFont = title->font();
-    titleFont.setPointSizeF(titleFont.pointSizeF() * 2);
-    title->setFont(titleFont);
+    // The colour comes from the picture behind: light on it, dark without it.
+    title->setFont(Look::font(24));
     auto *text = new QLabel(tr("Duplicates finds equal files and folders in one pass and moves "
                                "the copies you choose to the Trash.\nRename renames many files "
                                "at once, and never overwrites a file."),
@@ -23,9 +23,7 @@ BRIntroViewController::BRIntroViewController(QWidget *parent)
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignCenter);
 
-    QFont buttonFont = m_gotItButton->font();
-    buttonFont.setPointSize(20);
-    m_gotItButton->setFont(buttonFont);
+    m_gotItButton->setFont(Look::font(27));
     m_gotItButton->setMinimumSize(180, 52);
 
     auto *layout = new QVBoxLayout(this);

@@ -1,10 +1,10 @@
 #include "BRMainViewController.h"
 
 #include "AlertPresenter.h"
-#include "BRColorHelper.h"
 #include "BRDuplicateFilesMainViewController.h"
 #include "BRMainViewTabButton.h"
 #include "BRTabViewController.h"
+#include "Look.h"
 
 #include <QFile>
 #include <QHBoxLayout>
@@ -53,7 +53,7 @@ BRMainViewController::BRMainViewController(AlertPresenter &alerts, QWidget *dupl
     tabBar->setObjectName(QStringLiteral("tabBar"));
     tabBar->setAutoFillBackground(true);
     QPalette barPalette = tabBar->palette();
-    barPalette.setColor(QPalette::Window, BRColorHelper::color(38, 44, 56, 1.0));
+    barPalette.setColor(QPalette::Window, Look::color(Look::Color::TabBarGround));
     tabBar->setPalette(barPalette);
     auto *tabs = new QHBoxLayout(tabBar);
     tabs->setContentsMargins(12, 8, 12, 8);
@@ -90,12 +90,12 @@ BRMainViewController::BRMainViewController(AlertPresenter &alerts, QWidget *dupl
 
 QColor BRMainViewController::selectedTitleColor()
 {
-    return BRColorHelper::color(139, 247, 70, 1.0);
+    return Look::color(Look::Color::TabTitleSelected);
 }
 
 QColor BRMainViewController::unselectedTitleColor()
 {
-    return BRColorHelper::color(255, 255, 255, 0.8);
+    return Look::color(Look::Color::TabTitle);
 }
 
 void BRMainViewController::setDuplicateMainViewDelegate(BRDuplicateFilesMainViewDelegate *delegate)
@@ -162,9 +162,7 @@ void BRMainViewController::setButtonTitleAndColor(QPushButton *button, const QSt
                                                   const QColor &color)
 {
     button->setText(title);
-    QFont font = button->font();
-    font.setPointSize(15);
-    button->setFont(font);
+    button->setFont(Look::font(20));
     QPalette palette = button->palette();
     palette.setColor(QPalette::ButtonText, color);
     button->setPalette(palette);

@@ -8,6 +8,7 @@
 #include "BRRenameCompleteViewDoneButton.h"
 #include "BRRenameTableView.h"
 #include "BRRenameTableViewCell.h"
+#include "LookColors.h"
 #include "RecordingRenameDelegate.h"
 #include "RenameNotificationCenter.h"
 #include "RenameTableModel.h"
@@ -342,11 +343,11 @@ void TestRenameViews::liveCellFieldShowsTheNameByItsKind()
     QLineEdit *rule = list.hover(0)->destFileNameLabel();
     QCOMPARE(rule->text(), u"Trip1"_s);
     QVERIFY(!rule->isReadOnly());
-    QCOMPARE(rule->palette().color(QPalette::Text), QColor(31, 201, 126));
+    QCOMPARE(rule->palette().color(QPalette::Text), Look::color(Look::Color::RuleName));
 
     QLineEdit *edited = list.hover(1)->destFileNameLabel();
     QCOMPARE(edited->text(), u"Bee"_s);
-    QCOMPARE(edited->palette().color(QPalette::Text), QColor(33, 193, 249));
+    QCOMPARE(edited->palette().color(QPalette::Text), Look::color(Look::Color::HandEditedName));
 
     // No name and an emptied name alike: the placeholder, and nothing to edit.
     for (int row : {2, 3}) {
@@ -354,7 +355,8 @@ void TestRenameViews::liveCellFieldShowsTheNameByItsKind()
         QCOMPARE(none->text(), QString());
         QVERIFY(none->isReadOnly());
         QCOMPARE(none->placeholderText(), u"New Name"_s);
-        QCOMPARE(none->palette().color(QPalette::PlaceholderText), QColor(107, 107, 107));
+        QCOMPARE(none->palette().color(QPalette::PlaceholderText),
+                 Look::color(Look::Color::NewNamePlaceholder));
         QVERIFY(none->testAttribute(Qt::WA_TransparentForMouseEvents));
     }
     // The same cell moving back to a named row can be edited again.

@@ -2,6 +2,7 @@
 #include "BRDuplicateFilePreviewViewController.h"
 #include "BRDuplicatePopOverTableView.h"
 #include "FilePreviewView.h"
+#include "LookColors.h"
 #include "ScanReportReceiver.h"
 #include "TestDir.h"
 
@@ -123,7 +124,8 @@ private Q_SLOTS:
         for (QTextBlock::iterator it = document->begin().begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             const bool separator = fragment.text() == QStringLiteral(">");
-            QCOMPARE(fragment.charFormat().foreground().color() == QColor(191, 191, 191),
+            QCOMPARE(fragment.charFormat().foreground().color() ==
+                         Look::color(Look::Color::PathSeparator),
                      separator);
             QVERIFY(!fragment.text().contains(QLatin1Char('>')) || separator);
         }
@@ -174,17 +176,19 @@ private Q_SLOTS:
         if (trashTakesIt) {
             QVERIFY(popover.cellAt(0)->deleteButton()->isHidden());
             QVERIFY(popover.cellAt(0)->pathLabel()->palette().color(QPalette::Text) !=
-                    QColor(193, 193, 193));
+                    Look::color(Look::Color::DisabledText));
         } else {
             const BRDuplicateFilePreviewTableViewCell *cell = popover.cellAt(1);
             QVERIFY(cell->deleteButton()->isHidden());
-            QCOMPARE(cell->pathLabel()->palette().color(QPalette::Text), QColor(193, 193, 193));
+            QCOMPARE(cell->pathLabel()->palette().color(QPalette::Text),
+                     Look::color(Look::Color::DisabledText));
             QCOMPARE(cell->serialLabel()->palette().color(QPalette::WindowText),
-                     QColor(193, 193, 193));
+                     Look::color(Look::Color::DisabledText));
             // A row on its way to the Trash stays grey under the pointer.
             QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
             QCoreApplication::sendEvent(popover.cellAt(1), &enter);
-            QCOMPARE(cell->pathLabel()->palette().color(QPalette::Text), QColor(193, 193, 193));
+            QCOMPARE(cell->pathLabel()->palette().color(QPalette::Text),
+                     Look::color(Look::Color::DisabledText));
         }
     }
 
@@ -196,13 +200,13 @@ private Q_SLOTS:
         };
         QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
         QCoreApplication::sendEvent(&cell, &enter);
-        QCOMPARE(pathColor(), QColor(Qt::black));
+        QCOMPARE(pathColor(), Look::color(Look::Color::PrimaryText));
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(&cell, &leave);
-        QCOMPARE(pathColor(), QColor::fromRgbF(99 / 255.0f, 99 / 255.0f, 99 / 255.0f, 0.85f));
+        QCOMPARE(pathColor(), Look::color(Look::Color::SecondaryText));
         cell.deleteAction();
         QVERIFY(!cell.deleteButton()->isHidden());
-        QCOMPARE(pathColor(), QColor::fromRgbF(99 / 255.0f, 99 / 255.0f, 99 / 255.0f, 0.85f));
+        QCOMPARE(pathColor(), Look::color(Look::Color::SecondaryText));
     }
 
     void removeDataAtIndexDropsEveryEqualPath()

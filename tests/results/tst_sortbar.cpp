@@ -1,5 +1,6 @@
 #include "BRDuplicateSortPopUpButton.h"
 #include "BRDuplicateSortViewController.h"
+#include "LookColors.h"
 #include "RecordingFilesView.h"
 
 #include <QIcon>
@@ -151,7 +152,8 @@ private Q_SLOTS:
             QVERIFY2(imageOf(image.button->icon()) == imageOf(expected), name);
         }
         const QColor allColour = bar.allButton()->palette().color(QPalette::ButtonText);
-        QCOMPARE(allColour, button == u"allButton" ? QColor(57, 188, 25) : QColor(0, 0, 0, 153));
+        QCOMPARE(allColour, Look::color(button == u"allButton" ? Look::Color::DuplicatesAccent
+                                                               : Look::Color::SecondaryText));
         QCOMPARE(bar.allButton()->text(), QStringLiteral("All"));
         QCOMPARE(bar.newScanButton()->text(), QStringLiteral("New"));
         QCOMPARE(bar.musicButton()->accessibleName(), QStringLiteral("Music & Videos"));
