@@ -18,9 +18,11 @@
 namespace {
 
 constexpr quint32 bookmarkMagic = 0x514d424b; // "QMBK"
-// Version 1 held path, device and inode; version 2 adds the kind and the birth time.
+// Version 1 held path, device and inode; version 2 adds the kind and the birth time;
+// version 3 the size and the modification time.
 constexpr quint16 firstVersion = 1;
-constexpr quint16 currentVersion = 2;
+constexpr quint16 birthTimeVersion = 2;
+constexpr quint16 currentVersion = 3;
 // How many folder levels the search for a moved item reads below each place it starts
 // from, and how many entries it looks at in all: enough for a rename or a move nearby,
 // without letting a resolve walk a whole disk.
@@ -64,8 +66,8 @@ ItemBookmark::ItemBookmark(QString path, const Identity &identity)
 std::optional<ItemBookmark::Identity> ItemBookmark::identityAt(int folder, const char *name)
 {
     struct statx info = {};
-    if (::statx(folder, name, AT_SYMLINK_NOFOLLOW, STATX_TYPE | STATX_INO | STATX_BTIME, &info) !=
-        0)
+    constexpr unsigned wanted = STATX_TYPE | STATX_INO | STATX_BTIME | STATX_SIZE | STATX_MTIME;
+    if (::statx(folder, name, AT_SYMLINK_NOFOLLOW, wanted, &info) != 0)
         return std::nullopt;
     Identity identity;
     identity.device = makedev(info.stx_dev_major, info.stx_dev_minor);
@@ -75,6 +77,9 @@ std::optional<ItemBookmark::Identity> ItemBookmark::identityAt(int folder, const
         identity.birthSeconds = info.stx_btime.tv_sec;
         identity.birthNanoseconds = info.stx_btime.tv_nsec;
     }
+    identity.size = static_cast<qint64>(info.stx_size);
+    identity.modifiedSeconds = info.stx_mtime.tv_sec;
+    identity.modifiedNanoseconds = info.stx_mtime.tv_nsec;
     return identity;
 }
 
@@ -87,7 +92,13 @@ bool ItemBookmark::matches(const Identity &other) const
     if (m_identity.birthSeconds >= 0 && other.birthSeconds >= 0)
         return other.birthSeconds == m_identity.birthSeconds &&
                other.birthNanoseconds == m_identity.birthNanoseconds;
-    return true;
+    // No birth time to tell a recycled inode from the item: a file must still hold what it
+    // held. A folder's size and time change with every entry made or renamed in it, the
+    // renames of its own files among them, so for a folder they prove nothing.
+    if (m_identity.size < 0 || m_identity.type == S_IFDIR)
+        return true;
+    return other.size == m_identity.size && other.modifiedSeconds == m_identity.modifiedSeconds &&
+           other.modifiedNanoseconds == m_identity.modifiedNanoseconds;
 }
 
 std::optional<ItemBookmark> ItemBookmark::forPath(const QString &path)
@@ -107,7 +118,8 @@ QByteArray ItemBookmark::toData() const
     QDataStream out(&data, QIODevice::WriteOnly);
     out.setVersion(QDataStream::Qt_6_4);
     out << bookmarkMagic << currentVersion << m_path << m_identity.device << m_identity.inode
-        << m_identity.type << m_identity.birthSeconds << m_identity.birthNanoseconds;
+        << m_identity.type << m_identity.birthSeconds << m_identity.birthNanoseconds
+        << m_identity.size << m_identity.modifiedSeconds << m_identity.modifiedNanoseconds;
     return data;
 }
 
@@ -120,10 +132,12 @@ std::optional<ItemBookmark> ItemBookmark::fromData(const QByteArray &data)
     QString path;
     Identity identity;
     in >> magic >> version >> path >> identity.device >> identity.inode;
-    if (version == currentVersion)
+    if (version >= birthTimeVersion)
         in >> identity.type >> identity.birthSeconds >> identity.birthNanoseconds;
-    if (in.status() != QDataStream::Ok || magic != bookmarkMagic ||
-        (version != firstVersion && version != currentVersion) || path.isEmpty() || !in.atEnd())
+    if (version >= currentVersion)
+        in >> identity.size >> identity.modifiedSeconds >> identity.modifiedNanoseconds;
+    if (in.status() != QDataStream::Ok || magic != bookmarkMagic || version < firstVersion ||
+        version > currentVersion || path.isEmpty() || !in.atEnd())
         return std::nullopt;
     return ItemBookmark(path, identity);
 }

@@ -15,7 +15,8 @@
 //
 // The birth time guards against a recycled inode: a file deleted after it was bookmarked
 // frees its number for the next file made on that disk, and that unrelated file must
-// not be taken for it.
+// not be taken for it. Where the file system keeps no birth time, a file must also keep
+// its size and modification time to be taken for the same.
 class ItemBookmark
 {
 public:
@@ -58,6 +59,9 @@ private:
         quint32 type = 0;         // the S_IFMT bits; 0 in bookmarks made before they were kept
         qint64 birthSeconds = -1; // -1 when the file system gives no birth time
         quint32 birthNanoseconds = 0;
+        qint64 size = -1; // -1 in bookmarks made before it was kept
+        qint64 modifiedSeconds = 0;
+        quint32 modifiedNanoseconds = 0;
     };
 
     ItemBookmark(QString path, const Identity &identity);

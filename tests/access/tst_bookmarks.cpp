@@ -192,6 +192,53 @@ private Q_SLOTS:
             QSKIP("this file system did not hand the freed inode out again");
     }
 
+    // Where the file system keeps no birth time, the inode alone could be a newcomer's: a
+    // file must also have kept its size and modification time. Folders change both with
+    // their entries, so they are taken by their inode.
+    void withoutABirthTimeAFileMustKeepItsSizeAndTime_data()
+    {
+        QTest::addColumn<bool>("folder");
+        QTest::addColumn<qint64>("sizeChange");
+        QTest::addColumn<qint64>("secondsChange");
+        QTest::addColumn<bool>("resolves");
+        QTest::newRow("file as it was") << false << qint64(0) << qint64(0) << true;
+        QTest::newRow("file of another size") << false << qint64(1) << qint64(0) << false;
+        QTest::newRow("file of another time") << false << qint64(0) << qint64(-60) << false;
+        QTest::newRow("folder whose entries changed")
+            << true << qint64(4096) << qint64(-60) << true;
+    }
+    void withoutABirthTimeAFileMustKeepItsSizeAndTime()
+    {
+        QFETCH(bool, folder);
+        QFETCH(qint64, sizeChange);
+        QFETCH(qint64, secondsChange);
+        QFETCH(bool, resolves);
+        TestDir dir;
+        const QString path =
+            folder ? dir.createDir(u"Album"_s) : dir.createFile(u"Album/a.jpg"_s, "photo");
+        struct stat info = {};
+        QCOMPARE(::lstat(QFile::encodeName(path).constData(), &info), 0);
+        // As saved on a file system that gave no birth time, for an item that then held
+        // other contents under the same inode.
+        QByteArray data;
+        QDataStream out(&data, QIODevice::WriteOnly);
+        out.setVersion(QDataStream::Qt_6_4);
+        out << quint32(0x514d424b) << quint16(3) << path << quint64(info.st_dev)
+            << quint64(info.st_ino) << quint32(info.st_mode & S_IFMT) << qint64(-1) << quint32(0)
+            << qint64(info.st_size) + sizeChange << qint64(info.st_mtim.tv_sec) + secondsChange
+            << quint32(info.st_mtim.tv_nsec);
+
+        const auto bookmark = ItemBookmark::fromData(data);
+        QVERIFY(bookmark);
+        const auto resolved = bookmark->resolve();
+        QCOMPARE(resolved.has_value(), resolves);
+        if (resolved)
+            QCOMPARE(resolved->path, path);
+        // A bookmark made now round-trips with everything it holds.
+        QCOMPARE(ItemBookmark::fromData(ItemBookmark::forPath(path)->toData())->resolve()->path,
+                 path);
+    }
+
     // Bookmarks stored by earlier versions held the path, device and inode only.
     void resolvesBookmarksOfTheFirstFormat()
     {
