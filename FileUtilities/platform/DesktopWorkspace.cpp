@@ -1,17 +1,12 @@
 #include "DesktopWorkspace.h"
 
-#include "PlatformLog.h"
+#include "FreedesktopTrash.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDesktopServices>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
-
-#include <sys/stat.h>
-#include <unistd.h>
 
 bool DesktopWorkspace::openURL(const QUrl &url)
 {
@@ -32,54 +27,8 @@ bool DesktopWorkspace::selectFile(const QString &path)
     return QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).absolutePath()));
 }
 
-// A trashed item lands in "files" of the home Trash or of a volume's ".Trash-UID" or
-// ".Trash/UID"; anything else is not the freedesktop Trash.
-bool DesktopWorkspace::isInsideATrash(const QString &pathInTrash)
-{
-    if (!QDir::isAbsolutePath(pathInTrash))
-        return false;
-    const QString uid = QString::number(::getuid());
-    const QString folder = QFileInfo(pathInTrash).absolutePath();
-    return folder.endsWith(QStringLiteral("/Trash/files")) ||
-           folder.endsWith(QStringLiteral("/.Trash-") + uid + QStringLiteral("/files")) ||
-           folder.endsWith(QStringLiteral("/.Trash/") + uid + QStringLiteral("/files"));
-}
-
 TrashResult DesktopWorkspace::moveToTrash(const QString &path)
 {
-    TrashResult result;
-    struct stat info = {};
-    if (::lstat(QFile::encodeName(path).constData(), &info) != 0) {
-        result.error = QStringLiteral("“%1” does not exist.").arg(QFileInfo(path).fileName());
-        return result;
-    }
-    // Qt 6.4 reports success while putting the item into "./files" of the current folder
-    // when the home Trash does not exist yet, so the Trash is made first.
-    const QString homeTrash =
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-        QStringLiteral("/Trash");
-    QDir().mkpath(homeTrash + QStringLiteral("/files"));
-    QDir().mkpath(homeTrash + QStringLiteral("/info"));
-
-    QFile item(path);
-    if (!item.moveToTrash()) {
-        result.error = item.errorString();
-        qCWarning(platformLog).noquote()
-            << "could not move" << path << "to the Trash:" << item.errorString();
-        return result;
-    }
-    const QString pathInTrash = item.fileName();
-    if (!isInsideATrash(pathInTrash)) {
-        // It went somewhere that is no Trash: bring it back, never over another item.
-        if (!QFile::exists(path))
-            QFile::rename(QDir::current().absoluteFilePath(pathInTrash), path);
-        qCWarning(platformLog).noquote()
-            << "the Trash put" << path << "outside any Trash, at" << pathInTrash;
-        result.error =
-            QStringLiteral("The Trash could not be used for “%1”.").arg(QFileInfo(path).fileName());
-        return result;
-    }
-    result.trashed = true;
-    result.pathInTrash = pathInTrash;
-    return result;
+    const FreedesktopTrash::Result result = FreedesktopTrash().moveToTrash(path);
+    return TrashResult{result.trashed, QFile::decodeName(result.pathInTrash), result.error};
 }

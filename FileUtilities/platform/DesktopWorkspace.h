@@ -10,7 +10,4 @@ public:
     bool openURL(const QUrl &url) override;
     bool selectFile(const QString &path) override;
     TrashResult moveToTrash(const QString &path) override;
-
-private:
-    static bool isInsideATrash(const QString &pathInTrash);
 };
