@@ -35,6 +35,8 @@
 namespace {
 
 const QString fileDoesNotExistTitle = QStringLiteral("File does not exist");
+const QString missingFilesTitle = QStringLiteral("Missing files");
+const QString missingFilesText = QStringLiteral("Some files are missing and could not be found.");
 
 QString doesNotExistText(const QString &key)
 {
@@ -170,7 +172,7 @@ void BRRenameViewController::saveSourceUrls(const std::optional<QList<QUrl>> &ur
 {
     if (!urls)
         return;
-    m_brRenameFormat.emplace(this);
+    m_brRenameFormat.emplace();
     bool duplicateMet = false;
     // Asking the list itself would cost a pass over it per file: minutes for a big drop.
     QSet<QString> listed(m_renameFileDetailsKey.cbegin(), m_renameFileDetailsKey.cend());
@@ -208,11 +210,15 @@ void BRRenameViewController::saveSourceUrls(const std::optional<QList<QUrl>> &ur
         reloadTableView();
         return;
     }
-    if (*m_formatOption == RenameTexts::changeFullFileNames)
+    switch (*m_formatOption) {
+    case RenameRule::ChangeFullNames:
         renameUsingOption(m_newNameText.value_or(QString()), m_numberText.value_or(QString()),
                           *m_whereOption);
-    else
+        break;
+    case RenameRule::AddText:
         renameUsingAddTextOption(m_addText.value_or(QString()), *m_whereOption);
+        break;
+    }
 }
 
 void BRRenameViewController::delete_(const QString &key)
@@ -255,7 +261,7 @@ void BRRenameViewController::removeDetailsForKey(const QString &field)
         if (record->sourceURL.toLocalFile().isEmpty()) {
             showAlert(fileDoesNotExistTitle, doesNotExistText(key));
             delete_(key);
-        } else if (record->editableState != RenameTexts::edited &&
+        } else if (record->nameSource != NameSource::HandEdit &&
                    field == QLatin1String("destinationURL")) {
             record->destinationURL.reset();
         }
@@ -337,9 +343,9 @@ bool BRRenameViewController::tableViewAcceptDrop(const QList<QUrl> &urls)
 // Rules and hand edits
 
 void BRRenameViewController::renameUsingOption(const QString &newName, const QString &numberText,
-                                               const QString &where)
+                                               NamePlacement where)
 {
-    m_formatOption = RenameTexts::changeFullFileNames;
+    m_formatOption = RenameRule::ChangeFullNames;
     m_newNameText = newName;
     m_numberText = numberText;
     m_whereOption = where;
@@ -354,10 +360,10 @@ void BRRenameViewController::renameUsingOption(const QString &newName, const QSt
     startRuleRun();
 }
 
-void BRRenameViewController::renameUsingAddTextOption(const QString &text, const QString &where)
+void BRRenameViewController::renameUsingAddTextOption(const QString &text, NamePlacement where)
 {
     m_addText = text;
-    m_formatOption = RenameTexts::addTextToExistingNames;
+    m_formatOption = RenameRule::AddText;
     m_whereOption = where;
     enableRenameButton();
     sortRenameFileDetailsKey();
@@ -380,11 +386,11 @@ void BRRenameViewController::startRuleRun()
     // The worker gets its own copy of the list; the rows here are only written when the
     // run's names land, on this thread.
     const BRRenameFormat format = *m_brRenameFormat;
-    const bool fullNames = m_formatOption == RenameTexts::changeFullFileNames;
+    const bool fullNames = m_formatOption == RenameRule::ChangeFullNames;
     const QString text =
         fullNames ? m_newNameText.value_or(QString()) : m_addText.value_or(QString());
     const QString numberText = m_numberText.value_or(QString());
-    const QString where = m_whereOption.value_or(QString());
+    const NamePlacement where = m_whereOption.value_or(NamePlacement::AfterName);
     const QStringList keys = m_renameFileDetailsKey;
     QtConcurrent::run([format, fullNames, text, numberText, where, keys,
                        details = m_renameFileDetails]() mutable {
@@ -415,13 +421,13 @@ void BRRenameViewController::finishRuleRun(quint64 sequence, RuleRunResult &resu
     // Rows edited by hand while the run worked keep what the user typed.
     for (auto row = m_renameFileDetails.begin(); row != m_renameFileDetails.end(); ++row) {
         const auto named = result.details.constFind(row.key());
-        if (named == result.details.cend() || row->editableState == RenameTexts::edited ||
+        if (named == result.details.cend() || row->nameSource == NameSource::HandEdit ||
             named->sourceURL != row->sourceURL)
             continue;
         row->destinationURL = named->destinationURL;
     }
     if (missing)
-        showAlert(RenameTexts::missingFilesTitle, RenameTexts::missingFilesText);
+        showAlert(missingFilesTitle, missingFilesText);
     setRenameFilesDict();
     Q_EMIT ruleRunLanded();
 }
@@ -444,7 +450,7 @@ std::optional<QString> BRRenameViewController::createNewFileName(int row) const
 {
     if (!m_formatOption || !m_whereOption)
         return std::nullopt;
-    if (*m_formatOption == RenameTexts::changeFullFileNames)
+    if (*m_formatOption == RenameRule::ChangeFullNames)
         return BRRenameFormat::fullFileNameForRow(m_newNameText, m_numberText, *m_whereOption, row);
     if (!m_addText || m_addText->isEmpty() || row < 0 || row >= m_renameFileDetailsKey.size())
         return std::nullopt;
@@ -467,14 +473,14 @@ void BRRenameViewController::updateNewFileName(QLineEdit *textField, std::option
     const QString text = textField->text();
     if (text.isEmpty()) {
         // The edit is withdrawn: the row follows the rule again, if there is one.
-        record->editableState.clear();
+        record->nameSource = NameSource::Rule;
         if (const auto ruleName = createNewFileName(position))
             record->destinationURL = *ruleName;
         else
             record->destinationURL.reset();
     } else if (record->destinationURL && *record->destinationURL != text) {
         record->destinationURL = text;
-        record->editableState = RenameTexts::edited;
+        record->nameSource = NameSource::HandEdit;
     }
     reloadTableView();
 }
@@ -486,12 +492,15 @@ void BRRenameViewController::renameAction()
 {
     if (!m_formatOption)
         return;
-    if (*m_formatOption == RenameTexts::changeFullFileNames) {
+    switch (*m_formatOption) {
+    case RenameRule::ChangeFullNames:
         if (m_newNameText && !m_newNameText->isEmpty())
             rename();
-    } else if (*m_formatOption == RenameTexts::addTextToExistingNames) {
+        break;
+    case RenameRule::AddText:
         if (m_addText && !m_addText->isEmpty())
             rename();
+        break;
     }
 }
 
@@ -525,7 +534,7 @@ void BRRenameViewController::finishRenameRun(RenameRunResult &result)
         const auto row = m_renameFileDetails.find(key);
         if (done == result.details.cend() || row == m_renameFileDetails.end())
             continue;
-        row->State = done->State;
+        row->outcome = done->outcome;
         row->sourceURL = done->sourceURL;
     }
     // Bookmarks refreshed for files found somewhere else; none if the list was cleared.
@@ -537,7 +546,7 @@ void BRRenameViewController::finishRenameRun(RenameRunResult &result)
         delete_(key);
     }
     if (missing)
-        showAlert(RenameTexts::missingFilesTitle, RenameTexts::missingFilesText);
+        showAlert(missingFilesTitle, missingFilesText);
     updateStatus();
     Q_EMIT renameRunEnded();
 }
@@ -550,10 +559,17 @@ void BRRenameViewController::updateStatus()
         const auto row = m_renameFileDetails.constFind(key);
         if (row == m_renameFileDetails.cend() || !row->destinationURL)
             continue;
-        if (row->State == RenameTexts::failed)
+        switch (row->outcome) {
+        case RenameOutcome::Failed:
             failed = true;
-        else if (row->State == RenameTexts::success && !row->destinationURL->isEmpty())
-            renamed.append(*row->destinationURL);
+            break;
+        case RenameOutcome::Succeeded:
+            if (!row->destinationURL->isEmpty())
+                renamed.append(*row->destinationURL);
+            break;
+        case RenameOutcome::NotTried:
+            break;
+        }
     }
     if (failed)
         showAlert(QStringLiteral("Could not rename some files"),

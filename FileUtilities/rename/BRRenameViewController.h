@@ -4,6 +4,7 @@
 #include "BRRenameViewDelegate.h"
 #include "NameSortKeys.h"
 #include "RenameRecord.h"
+#include "RenameRule.h"
 #include "RowAnchoredPopover.h"
 #include "WindowDelegate.h"
 
@@ -79,8 +80,8 @@ public:
     void setRenameFilesDict() override;
     void updateStatus() override;
     void renameUsingOption(const QString &newName, const QString &numberText,
-                           const QString &where) override;
-    void renameUsingAddTextOption(const QString &text, const QString &where) override;
+                           NamePlacement where) override;
+    void renameUsingAddTextOption(const QString &text, NamePlacement where) override;
     void clearDestinationFileNames() override;
     void showPopOverForView(QWidget *sender) override;
     void showPopOver(int row) override;
@@ -98,8 +99,8 @@ public:
     bool renameActive() const { return m_renameActive; }
     bool renameRunning() const { return m_renameRunning; }
     bool ruleRunPending() const { return m_ruleRunsInFlight > 0; }
-    const std::optional<QString> &formatOption() const { return m_formatOption; }
-    const std::optional<QString> &whereOption() const { return m_whereOption; }
+    const std::optional<RenameRule> &formatOption() const { return m_formatOption; }
+    const std::optional<NamePlacement> &whereOption() const { return m_whereOption; }
     RenameNotificationCenter *notificationCenter() const { return m_center; }
     BRRenameTableView *renameTableView() const { return m_renameTableView; }
     BRRenameTabViewController *renameTabViewController() const { return m_tabViewController; }
@@ -143,8 +144,8 @@ private:
     RenameBookmarks m_bookmarks;
     int m_index = 0;
     bool m_renameActive = false;
-    std::optional<QString> m_formatOption;
-    std::optional<QString> m_whereOption;
+    std::optional<RenameRule> m_formatOption;
+    std::optional<NamePlacement> m_whereOption;
     std::optional<QString> m_newNameText;
     std::optional<QString> m_numberText;
     std::optional<QString> m_addText;

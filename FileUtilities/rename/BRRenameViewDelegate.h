@@ -1,5 +1,7 @@
 #pragma once
 
+#include "NamePlacement.h"
+
 #include <QString>
 
 #include <optional>
@@ -17,8 +19,8 @@ public:
     virtual void setRenameFilesDict() = 0;
     virtual void updateStatus() = 0;
     virtual void renameUsingOption(const QString &newName, const QString &numberText,
-                                   const QString &where) = 0;
-    virtual void renameUsingAddTextOption(const QString &text, const QString &where) = 0;
+                                   NamePlacement where) = 0;
+    virtual void renameUsingAddTextOption(const QString &text, NamePlacement where) = 0;
     virtual void clearDestinationFileNames() = 0;
     // sender: a widget inside a row of the list.
     virtual void showPopOverForView(QWidget *sender) = 0;

@@ -98,7 +98,7 @@ QVariant RenameTableModel::data(const QModelIndex &index, int role) const
     case DestinationRole:
         return record->destinationURL ? QVariant(*record->destinationURL) : QVariant();
     case EditedRole:
-        return record->editableState == RenameTexts::edited;
+        return record->nameSource == NameSource::HandEdit;
     default:
         return {};
     }

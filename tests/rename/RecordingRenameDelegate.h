@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BRRenameViewDelegate.h"
+#include "RenamePanelControls.h"
 
 #include <QLineEdit>
 #include <QStringList>
@@ -20,13 +21,15 @@ public:
     void setRenameFilesDict() override { calls << QStringLiteral("setRenameFilesDict"); }
     void updateStatus() override { calls << QStringLiteral("updateStatus"); }
     void renameUsingOption(const QString &newName, const QString &numberText,
-                           const QString &where) override
+                           NamePlacement where) override
     {
-        calls << QStringLiteral("renameUsingOption(%1|%2|%3)").arg(newName, numberText, where);
+        calls << QStringLiteral("renameUsingOption(%1|%2|%3)")
+                     .arg(newName, numberText, RenamePanelControls::placementTitle(where));
     }
-    void renameUsingAddTextOption(const QString &text, const QString &where) override
+    void renameUsingAddTextOption(const QString &text, NamePlacement where) override
     {
-        calls << QStringLiteral("renameUsingAddTextOption(%1|%2)").arg(text, where);
+        calls << QStringLiteral("renameUsingAddTextOption(%1|%2)")
+                     .arg(text, RenamePanelControls::placementTitle(where));
     }
     void clearDestinationFileNames() override
     {

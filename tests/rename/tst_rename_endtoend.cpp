@@ -80,7 +80,7 @@ private Q_SLOTS:
         field->selectAll();
         QTest::keyClicks(field, u"Bee"_s);
         QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(screen.renameFileDetails()[u"b.jpg"_s].editableState, u"edited"_s);
+        QCOMPARE(screen.renameFileDetails()[u"b.jpg"_s].nameSource, NameSource::HandEdit);
         screen.closePopOver();
 
         // The rename, and what it leaves.

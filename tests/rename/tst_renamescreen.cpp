@@ -115,7 +115,7 @@ private Q_SLOTS:
         create(dir, "a.jpg b.jpg c.png");
         Screen screen;
         screen.view.saveSourceUrls(urls(dir, "a.jpg b.jpg c.png"));
-        const QString after = RenameTexts::afterName;
+        const NamePlacement after = NamePlacement::AfterName;
         // Keystrokes faster than the runs: only the last text may land.
         for (const QString &text : {u"T"_s, u"Tr"_s, u"Tri"_s, u"Trip"_s})
             screen.view.renameUsingOption(text, u"1"_s, after);
@@ -133,19 +133,19 @@ private Q_SLOTS:
         field.clear();
         screen.view.updateNewFileName(&field, 1);
         QCOMPARE(screen.names(), u"Trip99999 Trip2 Trip100001");
-        QCOMPARE(screen.view.renameFileDetails()[u"b.jpg"_s].editableState, QString());
+        QCOMPARE(screen.view.renameFileDetails()[u"b.jpg"_s].nameSource, NameSource::Rule);
 
         // Typing the name a row already has does not mark it.
         field.setText(u"Trip2"_s);
         screen.view.updateNewFileName(&field, 1);
-        QCOMPARE(screen.view.renameFileDetails()[u"b.jpg"_s].editableState, QString());
+        QCOMPARE(screen.view.renameFileDetails()[u"b.jpg"_s].nameSource, NameSource::Rule);
 
         // Emptying the rule text clears the rule names, also of a run still under way,
         // and leaves an edited name alone.
         field.setText(u"Bee"_s);
         screen.view.updateNewFileName(&field, 1);
-        screen.view.renameUsingAddTextOption(u"-x"_s, RenameTexts::beforeName);
-        screen.view.renameUsingAddTextOption(QString(), RenameTexts::beforeName);
+        screen.view.renameUsingAddTextOption(u"-x"_s, NamePlacement::BeforeName);
+        screen.view.renameUsingAddTextOption(QString(), NamePlacement::BeforeName);
         screen.waitForRules();
         QCOMPARE(screen.names(), u"- Bee -");
         QVERIFY(!screen.view.renameActive());
@@ -161,7 +161,7 @@ private Q_SLOTS:
         // Without a rule the button does nothing.
         screen.view.renameAction();
         QVERIFY(!screen.view.renameRunning());
-        screen.view.renameUsingOption(u"n"_s, QString(), RenameTexts::afterName);
+        screen.view.renameUsingOption(u"n"_s, QString(), NamePlacement::AfterName);
         screen.waitForRules();
         QSignalSpy ended(&screen.view, &BRRenameViewController::renameRunEnded);
         screen.view.renameAction();
@@ -218,7 +218,7 @@ private Q_SLOTS:
         QSignalSpy completed(s.view.notificationCenter(),
                              &RenameNotificationCenter::renameComplete);
         s.add(urls(dir, onDisk.toUtf8().constData()));
-        s.view.renameUsingOption(u"n"_s, u"1"_s, RenameTexts::afterName);
+        s.view.renameUsingOption(u"n"_s, u"1"_s, NamePlacement::AfterName);
         s.waitForRules();
         create(dir, taken.toUtf8().constData());
         for (const QString &name : deleted.split(u' ', Qt::SkipEmptyParts))
@@ -254,7 +254,7 @@ private Q_SLOTS:
         auto *panel = screen.view.renameTabViewController()->changeFileNameViewController();
         auto *number = panel->findChild<QLineEdit *>(u"numberTextField"_s);
         number->setText(u"7"_s);
-        screen.view.renameUsingOption(u"x"_s, u"7"_s, RenameTexts::afterName);
+        screen.view.renameUsingOption(u"x"_s, u"7"_s, NamePlacement::AfterName);
         screen.waitForRules();
         screen.view.delete_(u"a.jpg"_s);
         QTRY_VERIFY(screen.view.dragAndDropView()->isVisible());

@@ -69,7 +69,7 @@ struct List
             details.insert(key, RenameRecord{file(u"/nowhere/"_s + key), QString(), {}, {}});
         details[u"a.txt"_s].destinationURL = u"Trip1"_s;
         details[u"b.txt"_s].destinationURL = u"Bee"_s;
-        details[u"b.txt"_s].editableState = u"edited"_s;
+        details[u"b.txt"_s].nameSource = NameSource::HandEdit;
         details[u"c.txt"_s].destinationURL = std::nullopt;
         table.setRenameDelegate(&delegate);
         table.renameModel()->setContents(&keys, &details);
@@ -230,8 +230,9 @@ void TestRenameViews::modelReadsTheScreensLists()
 {
     QStringList keys{u"Holiday"_s, u"a.txt"_s};
     RenameFileDetails details;
-    details.insert(u"Holiday"_s,
-                   RenameRecord{QUrl(u"file:///tmp/Holiday/"_s), std::nullopt, u"edited"_s, {}});
+    details.insert(
+        u"Holiday"_s,
+        RenameRecord{QUrl(u"file:///tmp/Holiday/"_s), std::nullopt, NameSource::HandEdit, {}});
     details.insert(u"a.txt"_s, RenameRecord{file(u"/tmp/a.txt"_s), QString(), {}, {}});
     RenameTableModel model;
     QCOMPARE(model.rowCount(), 0);
