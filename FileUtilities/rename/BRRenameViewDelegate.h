@@ -9,15 +9,13 @@
 class QLineEdit;
 class QWidget;
 
-// What the rename panels, rows, popover and the rule worker ask of the rename screen.
-// The screen alone implements it; every call arrives on the main thread.
+// What the rename panels, rows and popover ask of the rename screen. The screen alone
+// implements it; every call arrives on the main thread.
 class BRRenameViewDelegate
 {
 public:
     virtual ~BRRenameViewDelegate() = default;
 
-    virtual void setRenameFilesDict() = 0;
-    virtual void updateStatus() = 0;
     virtual void renameUsingOption(const QString &newName, const QString &numberText,
                                    NamePlacement where) = 0;
     virtual void renameUsingAddTextOption(const QString &text, NamePlacement where) = 0;
@@ -29,6 +27,4 @@ public:
     // Without a row, the row is the one that holds the field.
     virtual void updateNewFileName(QLineEdit *textField, std::optional<int> row) = 0;
     virtual void removeRowFromTableView(QWidget *sender) = 0;
-    virtual void showAlert(const QString &title, const QString &description) = 0;
-    virtual void delete_(const QString &key) = 0;
 };

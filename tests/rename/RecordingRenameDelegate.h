@@ -18,8 +18,6 @@ public:
     // The text of the field at the moment it was handed over.
     QString lastFieldText;
 
-    void setRenameFilesDict() override { calls << QStringLiteral("setRenameFilesDict"); }
-    void updateStatus() override { calls << QStringLiteral("updateStatus"); }
     void renameUsingOption(const QString &newName, const QString &numberText,
                            NamePlacement where) override
     {
@@ -54,9 +52,4 @@ public:
         lastSender = sender;
         calls << QStringLiteral("removeRowFromTableView");
     }
-    void showAlert(const QString &title, const QString &) override
-    {
-        calls << QStringLiteral("showAlert(%1)").arg(title);
-    }
-    void delete_(const QString &key) override { calls << QStringLiteral("delete(%1)").arg(key); }
 };
