@@ -20,8 +20,8 @@
 //
 // Rule runs and renames work on a copy of the list on a worker thread and hand their
 // results back to this object's thread, so the list itself is only ever touched there.
-// Each public call ends with the list in order and its views told (rowsReset or
-// namesChanged), except where noted.
+// Views hear of a change (rowsReset or namesChanged) once the list is in order again: a
+// rule's names when its run lands, not when the rule is set.
 class RenameList : public QObject
 {
     Q_OBJECT
