@@ -56,13 +56,14 @@ void ruleRuns(int rows, int runs)
     QStringList keys;
     for (int i = 0; i < rows; ++i) {
         const QString key = nameFor(i);
-        details.insert(key, RenameRecord{QUrl::fromLocalFile(u"/home/user/Pictures/"_s + key),
-                                         QString(), QString(), QString()});
+        details.insert(
+            key,
+            RenameRecord{QUrl::fromLocalFile(u"/home/user/Pictures/"_s + key), QString(), {}, {}});
         keys.append(key);
     }
     // Every tenth row typed by hand, as a user might have done.
     for (int i = 0; i < rows; i += 10)
-        details[keys.at(i)].editableState = RenameTexts::edited;
+        details[keys.at(i)].nameSource = NameSource::HandEdit;
 
     const BRRenameFormat format;
     std::vector<double> sortTimes, fullTimes, addTimes;
@@ -79,14 +80,14 @@ void ruleRuns(int rows, int runs)
         timer.restart();
         RenameFileDetails copy = details; // the run's private copy
         const auto full = format.changeFullFileNames(u"1"_s, u"Trip "_s + QString::number(run),
-                                                     copy, shuffled, RenameTexts::afterName);
+                                                     copy, shuffled, NamePlacement::AfterName);
         fullTimes.push_back(millisecondsOf(timer));
         checksum += full->missingKeys.size() + copy.value(shuffled.last()).destinationURL->size();
 
         timer.restart();
         RenameFileDetails addCopy = details;
         const auto added =
-            format.addTextToFileNames(u"-x"_s, addCopy, shuffled, RenameTexts::beforeName);
+            format.addTextToFileNames(u"-x"_s, addCopy, shuffled, NamePlacement::BeforeName);
         addTimes.push_back(millisecondsOf(timer));
         checksum +=
             added->missingKeys.size() + addCopy.value(shuffled.last()).destinationURL->size();
@@ -129,8 +130,7 @@ DiskRun diskRun(int files, Change change, int missing)
         if (!file.open(QIODevice::WriteOnly))
             qFatal("cannot create %s", qPrintable(file.fileName()));
         keys.append(key);
-        details.insert(key, RenameRecord{QUrl::fromLocalFile(file.fileName()), QString(), QString(),
-                                         QString()});
+        details.insert(key, RenameRecord{QUrl::fromLocalFile(file.fileName()), QString(), {}, {}});
     }
     DiskRun result;
     QElapsedTimer timer;
@@ -138,7 +138,7 @@ DiskRun diskRun(int files, Change change, int missing)
     for (const QString &key : std::as_const(keys))
         format.saveBookmark(details.value(key).sourceURL, bookmarks);
     result.bookmarks = millisecondsOf(timer);
-    format.changeFullFileNames(u"1"_s, u"Trip"_s, details, keys, RenameTexts::afterName);
+    format.changeFullFileNames(u"1"_s, u"Trip"_s, details, keys, NamePlacement::AfterName);
     switch (change) {
     case Change::None:
         break;
@@ -159,7 +159,7 @@ DiskRun diskRun(int files, Change change, int missing)
     result.rename = millisecondsOf(timer);
     result.missing = report.missingKeys.size();
     for (const RenameRecord &record : std::as_const(details))
-        result.succeeded += record.State == RenameTexts::success;
+        result.succeeded += record.outcome == RenameOutcome::Succeeded;
     return result;
 }
 

@@ -6,6 +6,7 @@
 
 #include "BRRenameTableView.h"
 #include "BRRenameViewController.h"
+#include "RenameList.h"
 #include "RenameNotificationCenter.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
@@ -105,7 +106,7 @@ int main(int argc, char *argv[])
     const double addMs =
         millisecondsOf([&] { Q_EMIT screen.notificationCenter()->dragAndDropComplete(urls); });
     runEventsFor(300);
-    std::printf("rows: %lld\n", static_cast<long long>(screen.renameFileDetailsKey().size()));
+    std::printf("rows: %lld\n", static_cast<long long>(screen.renameList()->rowCount()));
     std::printf("add %d files (drop to list, bookmarks, sort): %.1f ms\n", files, addMs);
 
     // Typing a rule at a brisk 12 keys a second; every keystroke starts a run.
@@ -114,7 +115,7 @@ int main(int argc, char *argv[])
     QList<double> runMs;
     frames.start();
     QElapsedTimer runClock;
-    QObject::connect(&screen, &BRRenameViewController::ruleRunLanded,
+    QObject::connect(screen.renameList(), &RenameList::ruleRunEnded,
                      [&] { runMs.append(static_cast<double>(runClock.nsecsElapsed()) / 1e6); });
     for (const QChar character : typed) {
         runClock.start();
@@ -130,9 +131,10 @@ int main(int argc, char *argv[])
                 static_cast<long long>(typed.size()), typingFrame,
                 runMs.isEmpty() ? 0.0 : runMs.at(runMs.size() / 2),
                 runMs.isEmpty() ? 0.0 : runMs.last());
-    const auto &details = screen.renameFileDetails();
+    const RenameList &list = *screen.renameList();
     std::printf("last row named: %s\n",
-                qPrintable(details.value(screen.renameFileDetailsKey().last())
+                qPrintable(list.records()
+                               .value(list.keys().last())
                                .destinationURL.value_or(QStringLiteral("(none)"))));
 
     // Scrolling through the whole list a page at a time.
@@ -150,7 +152,7 @@ int main(int argc, char *argv[])
     // The rename itself.
     QElapsedTimer renameClock;
     bool ended = false;
-    QObject::connect(&screen, &BRRenameViewController::renameRunEnded, [&] { ended = true; });
+    QObject::connect(screen.renameList(), &RenameList::renameEnded, [&] { ended = true; });
     frames.start();
     renameClock.start();
     screen.renameAction();
@@ -158,6 +160,7 @@ int main(int argc, char *argv[])
         QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
     const double renameMs = static_cast<double>(renameClock.nsecsElapsed()) / 1e6;
     const double renameFrame = frames.stop();
+    QCoreApplication::processEvents(); // alerts come after the report
     const qsizetype renamed =
         QDir(dir.path()).entryList({QStringLiteral("Summer in Lisbon *.jpg")}, QDir::Files).size();
     std::printf("rename %d files: %.0f ms to the report, %lld renamed on disk, %lld alerts; "

@@ -6,15 +6,12 @@
 #include "BRRenameViewDelegate.h"
 #include "RenameNotificationCenter.h"
 #include "RenamePanelControls.h"
-#include "RenameRecord.h"
 
 #include <QBoxLayout>
 
 BRAddTextViewController::BRAddTextViewController(RenameNotificationCenter *center, QWidget *parent)
-    : QWidget(parent),
-      m_formatOption(RenamePanelControls::makeRuleSwitch(QStringLiteral("formatOption"),
-                                                         RenameTexts::addTextToExistingNames,
-                                                         otherRuleTitle(), this)),
+    : QWidget(parent), m_formatOption(RenamePanelControls::makeRuleSwitch(
+                           QStringLiteral("formatOption"), RenameRule::AddText, this)),
       m_addTextField(RenamePanelControls::makeTextField(QStringLiteral("addTextField"),
                                                         QStringLiteral("Add Text"), this)),
       m_whereOptionButton(RenamePanelControls::makeWherePopup(this))
@@ -67,17 +64,19 @@ void BRAddTextViewController::whereOptionAction()
 void BRAddTextViewController::callDelegate()
 {
     m_addText = m_addTextField->text();
-    if (m_delegate && m_whereOptionButton->currentIndex() >= 0)
-        m_delegate->renameUsingAddTextOption(m_addText, m_whereOptionButton->currentText());
+    const auto where = RenamePanelControls::chosenPlacement(m_whereOptionButton);
+    if (m_delegate && where)
+        m_delegate->renameUsingAddTextOption(m_addText, *where);
 }
 
 void BRAddTextViewController::formatOptionAction()
 {
     auto *tabs = qobject_cast<BRRenameTabViewController *>(parentWidget());
-    if (!tabs || m_formatOption->currentText() != otherRuleTitle())
+    const auto chosen = RenamePanelControls::chosenRule(m_formatOption);
+    if (!tabs || !chosen || *chosen == RenameRule::AddText)
         return;
     m_addTextField->setText(QString());
-    tabs->setSelectedIndex(BRRenameTabViewController::changeFileNameIndex);
+    tabs->showRule(*chosen);
     m_formatOption->setCurrentIndex(0);
     if (m_delegate)
         m_delegate->clearDestinationFileNames();

@@ -16,8 +16,6 @@ class BRAddTextViewController : public QWidget
 
 public:
     static constexpr int TEXT_FIELD_LIMIT = 30;
-    // The title in the rule switch that leads to the other panel.
-    static QString otherRuleTitle() { return QStringLiteral("Change full name"); }
 
     BRAddTextViewController(RenameNotificationCenter *center, QWidget *parent = nullptr);
 

@@ -6,7 +6,6 @@
 #include "BRRenameViewDelegate.h"
 #include "RenameNotificationCenter.h"
 #include "RenamePanelControls.h"
-#include "RenameRecord.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -16,8 +15,7 @@ BRChangeFileNameViewController::BRChangeFileNameViewController(RenameNotificatio
                                                                QWidget *parent)
     : QWidget(parent),
       m_formatOptionButton(RenamePanelControls::makeRuleSwitch(QStringLiteral("formatOptionButton"),
-                                                               RenameTexts::changeFullFileNames,
-                                                               otherRuleTitle(), this)),
+                                                               RenameRule::ChangeFullNames, this)),
       m_newNameTextField(RenamePanelControls::makeTextField(
           QStringLiteral("newNameTextField"), QStringLiteral("Enter New Name"), this)),
       m_numberTextField(RenamePanelControls::makeTextField(QStringLiteral("numberTextField"),
@@ -86,18 +84,19 @@ void BRChangeFileNameViewController::callDelegate()
 {
     m_newNameText = m_newNameTextField->text();
     m_numberText = m_numberTextField->text();
-    if (m_delegate && m_whereOptionButton->currentIndex() >= 0)
-        m_delegate->renameUsingOption(m_newNameText, m_numberText,
-                                      m_whereOptionButton->currentText());
+    const auto where = RenamePanelControls::chosenPlacement(m_whereOptionButton);
+    if (m_delegate && where)
+        m_delegate->renameUsingOption(m_newNameText, m_numberText, *where);
 }
 
 void BRChangeFileNameViewController::formatOptionAction()
 {
     auto *tabs = qobject_cast<BRRenameTabViewController *>(parentWidget());
-    if (!tabs || m_formatOptionButton->currentText() != otherRuleTitle())
+    const auto chosen = RenamePanelControls::chosenRule(m_formatOptionButton);
+    if (!tabs || !chosen || *chosen == RenameRule::ChangeFullNames)
         return;
     m_newNameTextField->setText(QString());
-    tabs->setSelectedIndex(BRRenameTabViewController::addTextIndex);
+    tabs->showRule(*chosen);
     // Ready for the way back.
     m_formatOptionButton->setCurrentIndex(0);
     if (m_delegate)

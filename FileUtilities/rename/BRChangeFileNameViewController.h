@@ -17,8 +17,6 @@ class BRChangeFileNameViewController : public QWidget
 
 public:
     static constexpr int TEXT_FIELD_LIMIT = 30;
-    // The title in the rule switch that leads to the other panel.
-    static QString otherRuleTitle() { return QStringLiteral("Add text to name"); }
 
     BRChangeFileNameViewController(RenameNotificationCenter *center, QWidget *parent = nullptr);
 

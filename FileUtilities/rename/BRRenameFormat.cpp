@@ -23,9 +23,16 @@ bool existsAt(const QString &path)
     return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
 }
 
-QString joined(const QString &text, const QString &addition, const QString &where)
+QString joined(const QString &text, const QString &addition, NamePlacement where)
 {
-    return where == RenameTexts::beforeName ? addition + text : text + addition;
+    switch (where) {
+    case NamePlacement::AfterName:
+        return text + addition;
+    case NamePlacement::BeforeName:
+        return addition + text;
+    }
+    Q_UNREACHABLE();
+    return text;
 }
 
 // The path without trailing slashes, split into its folder and its last component.
@@ -46,8 +53,6 @@ SplitPath splitPath(QString path)
 }
 
 } // namespace
-
-BRRenameFormat::BRRenameFormat(BRRenameViewDelegate *delegate) : m_delegate(delegate) {}
 
 std::optional<qint64> BRRenameFormat::parseNumber(const QString &text)
 {
@@ -99,7 +104,7 @@ RuleRunReport BRRenameFormat::nameListedRows(RenameFileDetails &details, const Q
 
 std::optional<RuleRunReport> BRRenameFormat::changeFullFileNames(
     const QString &numberText, const std::optional<QString> &newName, RenameFileDetails &details,
-    const QStringList &keys, const QString &where) const
+    const QStringList &keys, NamePlacement where) const
 {
     if (!newName)
         return std::nullopt;
@@ -112,28 +117,28 @@ std::optional<RuleRunReport> BRRenameFormat::changeFullFileNames(
             counter = *start;
     }
     return nameListedRows(details, keys, [&](RenameRecord &record) {
-        if (record.editableState != RenameTexts::edited)
+        if (record.nameSource != NameSource::HandEdit)
             record.destinationURL = joined(*newName, QString::number(counter), where);
-        ++counter; // an edited row keeps its number, so the others keep theirs
+        ++counter; // a hand-named row keeps its number, so the others keep theirs
     });
 }
 
 std::optional<RuleRunReport> BRRenameFormat::addTextToFileNames(const QString &text,
                                                                 RenameFileDetails &details,
                                                                 const QStringList &keys,
-                                                                const QString &where) const
+                                                                NamePlacement where) const
 {
     if (text.isEmpty())
         return std::nullopt;
     return nameListedRows(details, keys, [&](RenameRecord &record) {
-        if (record.editableState != RenameTexts::edited)
+        if (record.nameSource != NameSource::HandEdit)
             record.destinationURL = addedTextName(record.sourceURL, text, where);
     });
 }
 
 std::optional<QString> BRRenameFormat::fullFileNameForRow(const std::optional<QString> &newNameText,
                                                           const std::optional<QString> &numberText,
-                                                          const QString &where, int row)
+                                                          NamePlacement where, int row)
 {
     if (!newNameText || newNameText->isEmpty() || !numberText || row < 0)
         return std::nullopt;
@@ -150,7 +155,7 @@ std::optional<QString> BRRenameFormat::fullFileNameForRow(const std::optional<QS
 }
 
 QString BRRenameFormat::addedTextName(const QUrl &sourceURL, const QString &text,
-                                      const QString &where)
+                                      NamePlacement where)
 {
     return joined(baseName(sourceURL), text, where);
 }
@@ -211,14 +216,14 @@ void BRRenameFormat::renameFile(const std::optional<QUrl> &sourceURL, const QStr
     // A name that would point into another folder, or that the file system cannot hold,
     // is refused here rather than handed to the path API.
     if (!FileMover::isValidFileName(targetName, source.folder)) {
-        record->State = RenameTexts::failed;
+        record->outcome = RenameOutcome::Failed;
         return;
     }
     const QString targetPath = source.folder == QLatin1String("/")
                                    ? source.folder + targetName
                                    : source.folder + QLatin1Char('/') + targetName;
-    record->State =
-        FileMover::move(sourcePath, targetPath) ? RenameTexts::success : RenameTexts::failed;
+    record->outcome =
+        FileMover::move(sourcePath, targetPath) ? RenameOutcome::Succeeded : RenameOutcome::Failed;
 }
 
 std::optional<QUrl> BRRenameFormat::restoreBookmark(const QString &path,

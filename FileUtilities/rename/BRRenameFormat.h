@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ItemBookmark.h"
+#include "NamePlacement.h"
 #include "RenameRecord.h"
 
 #include <QString>
@@ -9,8 +10,6 @@
 
 #include <functional>
 #include <optional>
-
-class BRRenameViewDelegate;
 
 // What a rule run met: the keys of rows whose file URL has no path. The caller removes
 // them from the list and tells the user; the run itself never touches the screen.
@@ -27,24 +26,18 @@ struct ExecutionReport
 };
 
 // The batch renamer's worker: computes rule names into the rows and moves the files.
-// It keeps no list of its own and no state but the delegate, which it only hands back:
-// every call works on the maps it is given, touches nothing shared and nothing on
-// screen, and so may run on a worker thread over a private copy of the list.
+// It keeps no list of its own and no state: every call works on the maps it is given,
+// touches nothing shared and nothing on screen, and so may run on a worker thread over a
+// private copy of the list.
 //
-// Rule names: "Before name" puts the text (or number) before, any other `where` after;
-// the screen only ever passes "After name" or "Before name". Names are used exactly as
-// given: nothing is trimmed, padded or joined with a separator.
+// Rule names: `where` puts the text (or number) before or after. Names are used exactly
+// as given: nothing is trimmed, padded or joined with a separator.
 //
 // A row's file path is its sourceURL's local file path; a URL that is not a local file
 // counts as having no path.
 class BRRenameFormat
 {
 public:
-    explicit BRRenameFormat(BRRenameViewDelegate *delegate = nullptr);
-
-    BRRenameViewDelegate *delegate() const { return m_delegate; }
-    void setDelegate(BRRenameViewDelegate *delegate) { m_delegate = delegate; }
-
     // The start number limit: a start above it falls back.
     static constexpr qint64 startNumberLimit = 99999;
 
@@ -53,8 +46,8 @@ public:
     // 5, " 5", "5.0", "" and anything out of range do not parse).
     static std::optional<qint64> parseNumber(const QString &text);
 
-    // The full-name rule: each row not marked "edited" gets `newName` and a running number.
-    // Rows are taken in key order; the number also advances on edited rows (they keep their
+    // The full-name rule: each row not named by hand gets `newName` and a running number.
+    // Rows are taken in key order; the number also advances on hand-named rows (they keep their
     // names, the others keep their numbers), not on keys without a record nor on rows
     // without a path, which are reported. Nothing happens, and nothing is reported, when
     // `newName` is absent or `numberText` does not parse: then the result is nothing.
@@ -64,12 +57,12 @@ public:
                                                      const std::optional<QString> &newName,
                                                      RenameFileDetails &details,
                                                      const QStringList &keys,
-                                                     const QString &where) const;
-    // The add-text rule: each row not marked "edited" gets its base name with `text` added.
+                                                     NamePlacement where) const;
+    // The add-text rule: each row not named by hand gets its base name with `text` added.
     // Nothing happens, and the result is nothing, for an empty text.
     std::optional<RuleRunReport> addTextToFileNames(const QString &text, RenameFileDetails &details,
                                                     const QStringList &keys,
-                                                    const QString &where) const;
+                                                    NamePlacement where) const;
 
     // The full-name rule's name of the row at `row` (from 0) computed alone, for a hand
     // edit that is withdrawn. The number is the parsed start plus the row; a sum above
@@ -78,9 +71,9 @@ public:
     // or does not parse.
     static std::optional<QString> fullFileNameForRow(const std::optional<QString> &newNameText,
                                                      const std::optional<QString> &numberText,
-                                                     const QString &where, int row);
+                                                     NamePlacement where, int row);
     // The add-text rule's name of one file.
-    static QString addedTextName(const QUrl &sourceURL, const QString &text, const QString &where);
+    static QString addedTextName(const QUrl &sourceURL, const QString &text, NamePlacement where);
     // The last path component up to its first dot: "holiday" for holiday.2019.final.jpg,
     // "" for .profile.
     static QString baseName(const QUrl &sourceURL);
@@ -94,9 +87,9 @@ public:
     ExecutionReport renameFiles(const QStringList &keys, RenameFileDetails &details,
                                 RenameBookmarks &bookmarks) const;
     // Moves one file to `newName` plus its own extension (the text after the last dot of
-    // its name, if any) in its folder, and sets the row's State to "Success" or "Failed".
+    // its name, if any) in its folder, and sets the row's outcome.
     // Never replaces anything: an existing target, or a target name that cannot be one file
-    // name in that folder ("", ".", "..", a '/' or NUL, too long), is "Failed" and nothing
+    // name in that folder ("", ".", "..", a '/' or NUL, too long), fails and nothing
     // moves. sourceURL is left as it was, also after a move. An absent URL, one without a
     // path, or a key without a record does nothing.
     void renameFile(const std::optional<QUrl> &sourceURL, const QString &newName,
@@ -117,6 +110,4 @@ private:
     // missing files costs one walk of their surroundings.
     std::optional<QUrl> restoreBookmark(const QString &path, RenameBookmarks &bookmarks,
                                         ItemBookmark::SearchCache *cache) const;
-
-    BRRenameViewDelegate *m_delegate = nullptr;
 };

@@ -13,3 +13,15 @@ BRRenameTabViewController::BRRenameTabViewController(RenameNotificationCenter *c
     insertWidget(addTextIndex, m_addText);
     setCurrentIndex(changeFileNameIndex);
 }
+
+int BRRenameTabViewController::indexOf(RenameRule rule)
+{
+    switch (rule) {
+    case RenameRule::ChangeFullNames:
+        return changeFileNameIndex;
+    case RenameRule::AddText:
+        return addTextIndex;
+    }
+    Q_UNREACHABLE();
+    return changeFileNameIndex;
+}

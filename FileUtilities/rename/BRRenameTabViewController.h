@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RenameRule.h"
+
 #include <QStackedWidget>
 
 class BRAddTextViewController;
@@ -28,6 +30,9 @@ public:
 
     int selectedIndex() const { return currentIndex(); }
     void setSelectedIndex(int index) { setCurrentIndex(index); }
+    // The panel of `rule`.
+    static int indexOf(RenameRule rule);
+    void showRule(RenameRule rule) { setSelectedIndex(indexOf(rule)); }
 
 private:
     BRChangeFileNameViewController *m_changeFileName;

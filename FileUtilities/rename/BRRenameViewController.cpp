@@ -15,6 +15,7 @@
 #include "BRRenameViewRenameButton.h"
 #include "OpenPanel.h"
 #include "RenameFont.h"
+#include "RenameList.h"
 #include "RenameNotificationCenter.h"
 #include "RenameTableModel.h"
 #include "RowAnchoredPopover.h"
@@ -24,17 +25,16 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSet>
 #include <QShowEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QtConcurrent/QtConcurrentRun>
-
-#include <algorithm>
-#include <memory>
 
 namespace {
 
 const QString fileDoesNotExistTitle = QStringLiteral("File does not exist");
+const QString missingFilesTitle = QStringLiteral("Missing files");
+const QString missingFilesText = QStringLiteral("Some files are missing and could not be found.");
 
 QString doesNotExistText(const QString &key)
 {
@@ -43,41 +43,26 @@ QString doesNotExistText(const QString &key)
 
 } // namespace
 
-// What a rule run hands back: its report, and the names it wrote into its copy.
-struct BRRenameViewController::RuleRunResult
-{
-    std::optional<RuleRunReport> report;
-    RenameFileDetails details;
-};
-
-// What a rename run hands back: the rows' outcomes, the places of files found by
-// bookmark, and the files that could not be found at all.
-struct BRRenameViewController::RenameRunResult
-{
-    ExecutionReport report;
-    QStringList keys;
-    RenameFileDetails details;
-    RenameBookmarks bookmarks;
-};
-
 BRRenameViewController::BRRenameViewController(const Services &services, QWidget *parent)
     : QWidget(parent), m_alerts(services.alerts), m_openPanel(services.openPanel),
-      m_appDelegate(services.appDelegate), m_center(new RenameNotificationCenter(this))
+      m_appDelegate(services.appDelegate), m_list(new RenameList(this)),
+      m_center(new RenameNotificationCenter(this))
 {
     setObjectName(QStringLiteral("renameViewController"));
     buildScreen();
-    m_model = m_renameTableView->renameModel();
-    m_model->setContents(&m_renameFileDetailsKey, &m_renameFileDetails);
-    m_model->setAcceptDrop([this](const QList<QUrl> &urls) { return tableViewAcceptDrop(urls); });
+    RenameTableModel *model = m_renameTableView->renameModel();
+    model->setList(m_list);
+    model->setAcceptDrop([this](const QList<QUrl> &urls) { return m_list->addDropped(urls); });
 
     m_renameTableView->setRenameDelegate(this);
-    if (m_renameFileDetailsKey.isEmpty())
+    if (m_list->rowCount() == 0)
         setViewsHiddenState(true, false, true, true);
     connect(m_center, &RenameNotificationCenter::dragAndDropComplete, this,
             &BRRenameViewController::setFileSourceUrlsAfterDragAndDrop);
     connect(m_center, &RenameNotificationCenter::renameDone, this,
             &BRRenameViewController::displayDragAndDropView);
-    disableRenameButton();
+    connectList();
+    refreshRenameButtonTitle();
 }
 
 BRRenameViewController::~BRRenameViewController()
@@ -151,7 +136,7 @@ void BRRenameViewController::buildScreen()
     layout->addWidget(m_renameCompleteStatusView, 1);
 
     connect(m_browseButton, &QPushButton::clicked, this, &BRRenameViewController::browseAction);
-    connect(m_clearButton, &QPushButton::clicked, this, &BRRenameViewController::clearAction);
+    connect(m_clearButton, &QPushButton::clicked, this, &BRRenameViewController::clear);
     connect(m_renameButton, &QPushButton::clicked, this, &BRRenameViewController::renameAction);
 }
 
@@ -163,74 +148,69 @@ void BRRenameViewController::showEvent(QShowEvent *event)
         host->setWindowDelegate(this);
 }
 
-// ---------------------------------------------------------------------------------------
-// The list
-
-void BRRenameViewController::saveSourceUrls(const std::optional<QList<QUrl>> &urls)
+void BRRenameViewController::connectList()
 {
-    if (!urls)
-        return;
-    m_brRenameFormat.emplace(this);
-    bool duplicateMet = false;
-    // Asking the list itself would cost a pass over it per file: minutes for a big drop.
-    QSet<QString> listed(m_renameFileDetailsKey.cbegin(), m_renameFileDetailsKey.cend());
-    for (const QUrl &url : *urls) {
-        const QString path = url.toLocalFile();
-        if (path.isEmpty())
-            continue;
-        const QString key = QFileInfo(path).fileName();
-        if (key.isEmpty() || listed.contains(key)) {
-            duplicateMet = duplicateMet || !key.isEmpty();
-            continue;
-        }
-        m_brRenameFormat->saveBookmark(url, m_bookmarks);
-        listed.insert(key);
-        m_renameFileDetailsKey.insert(m_index, key);
-        ++m_index;
-        m_keysSorted = false;
-        m_keysChangedSinceReload = true;
-        // The picture is made when the row is first painted, off the main thread.
-        RenameRecord record;
-        record.sourceURL = QUrl::fromLocalFile(path);
-        m_renameFileDetails.insert(key, record);
-    }
-    reloadTableView();
-    disableRenameButton();
-    if (duplicateMet)
+    connect(m_list, &RenameList::rowCountChanged, this,
+            &BRRenameViewController::refreshRenameButtonTitle);
+    connect(m_list, &RenameList::renameActiveChanged, this, [this](bool active) {
+        m_renameActive = active;
+        refreshRenameButtonTitle();
+    });
+    connect(m_list, &RenameList::cleared, this, [this] {
+        closePopOver();
+        Q_EMIT m_center->clearText();
+    });
+    connect(m_list, &RenameList::lastRowRemoved, this,
+            &BRRenameViewController::showDragAndDropView);
+    connect(m_list, &RenameList::namesAlreadyListed, this, [this] {
         showAlert(QStringLiteral("Some files already exist"),
                   QStringLiteral("Some of the files you were adding for rename are already in "
                                  "the list. So they are not added again"));
-    if (m_renameFileDetailsKey.isEmpty()) {
-        clearAll();
-        return;
-    }
-    if (!m_formatOption || !m_whereOption) {
-        reloadTableView();
-        return;
-    }
-    if (*m_formatOption == RenameTexts::changeFullFileNames)
-        renameUsingOption(m_newNameText.value_or(QString()), m_numberText.value_or(QString()),
-                          *m_whereOption);
-    else
-        renameUsingAddTextOption(m_addText.value_or(QString()), *m_whereOption);
+    });
+    connect(m_list, &RenameList::filesMissing, this,
+            [this] { showAlert(missingFilesTitle, missingFilesText); });
+    connect(m_list, &RenameList::fileDoesNotExist, this, [this](const QString &key) {
+        showAlert(fileDoesNotExistTitle, doesNotExistText(key));
+    });
+    connect(m_list, &RenameList::renameStarted, this, &BRRenameViewController::closePopOver);
+    connect(m_list, &RenameList::renameEnded, this, &BRRenameViewController::renameEnded);
 }
 
-void BRRenameViewController::delete_(const QString &key)
+int BRRenameViewController::rowCount() const
 {
-    if (!m_renameFileDetailsKey.isEmpty()) {
-        m_renameFileDetailsKey.removeAll(key);
-        m_keysChangedSinceReload = true;
-        if (m_index != 0)
-            --m_index;
-        if (m_renameActive)
-            enableRenameButton();
-        else
-            disableRenameButton();
-    }
-    if (m_renameFileDetailsKey.isEmpty()) {
-        clearAll();
-        showDragAndDropView();
-    }
+    return m_list->rowCount();
+}
+
+void BRRenameViewController::clear()
+{
+    m_list->clear();
+    showDragAndDropView();
+}
+
+// ---------------------------------------------------------------------------------------
+// What the panels and rows hand over
+
+void BRRenameViewController::renameUsingOption(const QString &newName, const QString &numberText,
+                                               NamePlacement where)
+{
+    m_list->setFullNameRule(newName, numberText, where);
+}
+
+void BRRenameViewController::renameUsingAddTextOption(const QString &text, NamePlacement where)
+{
+    m_list->setAddTextRule(text, where);
+}
+
+void BRRenameViewController::clearDestinationFileNames()
+{
+    m_list->clearRule();
+}
+
+void BRRenameViewController::updateNewFileName(QLineEdit *textField, std::optional<int> row)
+{
+    if (!textField)
+        return;
+    m_list->setHandName(row ? *row : m_renameTableView->rowForView(textField), textField->text());
 }
 
 void BRRenameViewController::removeRowFromTableView(QWidget *sender)
@@ -238,245 +218,10 @@ void BRRenameViewController::removeRowFromTableView(QWidget *sender)
     if (!sender)
         return;
     const int row = m_renameTableView->rowForView(sender);
-    if (row >= 0 && row < m_renameFileDetailsKey.size()) {
+    if (row >= 0 && row < m_list->rowCount()) {
         closePopOver();
-        delete_(m_renameFileDetailsKey.at(row));
+        m_list->remove(m_list->keys().at(row));
     }
-    reloadTableView();
-}
-
-void BRRenameViewController::removeDetailsForKey(const QString &field)
-{
-    const QStringList keys = m_renameFileDetailsKey;
-    for (const QString &key : keys) {
-        const auto record = m_renameFileDetails.find(key);
-        if (record == m_renameFileDetails.end())
-            continue;
-        if (record->sourceURL.toLocalFile().isEmpty()) {
-            showAlert(fileDoesNotExistTitle, doesNotExistText(key));
-            delete_(key);
-        } else if (record->editableState != RenameTexts::edited &&
-                   field == QLatin1String("destinationURL")) {
-            record->destinationURL.reset();
-        }
-    }
-}
-
-void BRRenameViewController::clearAll()
-{
-    closePopOver();
-    m_renameFileDetailsKey.clear();
-    m_keysChangedSinceReload = true;
-    m_renameFileDetails.clear();
-    m_bookmarks.clear();
-    m_sortKeys = NameSortKeys();
-    m_keysSorted = true;
-    m_index = 0;
-    // Runs under way belong to a list that is gone.
-    ++m_ruleRunSequence;
-    Q_EMIT m_center->clearText();
-    m_newNameText.reset();
-    m_numberText.reset();
-    m_formatOption.reset();
-    m_whereOption.reset();
-    m_addText.reset();
-    m_brRenameFormat.reset();
-    disableRenameButton();
-}
-
-void BRRenameViewController::sortRenameFileDetailsKey()
-{
-    if (m_renameFileDetailsKey.isEmpty() || m_keysSorted)
-        return;
-    // Ranks instead of comparisons: ten thousand names sort in a few milliseconds.
-    const std::vector<int> ranks = m_sortKeys.ranksOf(m_renameFileDetailsKey);
-    std::vector<qsizetype> order(ranks.size());
-    for (size_t i = 0; i < order.size(); ++i)
-        order[i] = static_cast<qsizetype>(i);
-    std::stable_sort(order.begin(), order.end(), [&ranks](qsizetype a, qsizetype b) {
-        return ranks[static_cast<size_t>(a)] < ranks[static_cast<size_t>(b)];
-    });
-    QStringList sorted;
-    sorted.reserve(m_renameFileDetailsKey.size());
-    for (const qsizetype position : order)
-        sorted.append(m_renameFileDetailsKey.at(position));
-    m_renameFileDetailsKey = std::move(sorted);
-    m_keysSorted = true;
-    m_keysChangedSinceReload = true;
-}
-
-void BRRenameViewController::reloadTableView()
-{
-    sortRenameFileDetailsKey();
-    // Rows that stay where they were only need their names painted again; rebuilding the
-    // view of ten thousand rows on every keystroke would be felt.
-    if (m_keysChangedSinceReload)
-        m_model->reload();
-    else
-        m_model->refreshNames();
-    m_keysChangedSinceReload = false;
-}
-
-void BRRenameViewController::setRenameFilesDict()
-{
-    reloadTableView();
-}
-
-bool BRRenameViewController::tableViewAcceptDrop(const QList<QUrl> &urls)
-{
-    if (urls.isEmpty())
-        return false;
-    for (const QUrl &url : urls)
-        if (!url.isLocalFile())
-            return false;
-    saveSourceUrls(urls);
-    return true;
-}
-
-// ---------------------------------------------------------------------------------------
-// Rules and hand edits
-
-void BRRenameViewController::renameUsingOption(const QString &newName, const QString &numberText,
-                                               const QString &where)
-{
-    m_formatOption = RenameTexts::changeFullFileNames;
-    m_newNameText = newName;
-    m_numberText = numberText;
-    m_whereOption = where;
-    sortRenameFileDetailsKey();
-    if (m_renameFileDetailsKey.isEmpty())
-        return;
-    if (newName.isEmpty()) {
-        clearDestinationFileNames();
-        return;
-    }
-    enableRenameButton();
-    startRuleRun();
-}
-
-void BRRenameViewController::renameUsingAddTextOption(const QString &text, const QString &where)
-{
-    m_addText = text;
-    m_formatOption = RenameTexts::addTextToExistingNames;
-    m_whereOption = where;
-    enableRenameButton();
-    sortRenameFileDetailsKey();
-    if (m_renameFileDetailsKey.isEmpty())
-        return;
-    if (text.isEmpty()) {
-        clearDestinationFileNames();
-        return;
-    }
-    enableRenameButton();
-    startRuleRun();
-}
-
-void BRRenameViewController::startRuleRun()
-{
-    if (!m_brRenameFormat)
-        return;
-    const quint64 sequence = ++m_ruleRunSequence;
-    ++m_ruleRunsInFlight;
-    // The worker gets its own copy of the list; the rows here are only written when the
-    // run's names land, on this thread.
-    const BRRenameFormat format = *m_brRenameFormat;
-    const bool fullNames = m_formatOption == RenameTexts::changeFullFileNames;
-    const QString text =
-        fullNames ? m_newNameText.value_or(QString()) : m_addText.value_or(QString());
-    const QString numberText = m_numberText.value_or(QString());
-    const QString where = m_whereOption.value_or(QString());
-    const QStringList keys = m_renameFileDetailsKey;
-    QtConcurrent::run([format, fullNames, text, numberText, where, keys,
-                       details = m_renameFileDetails]() mutable {
-        auto result = std::make_shared<RuleRunResult>();
-        result->report = fullNames
-                             ? format.changeFullFileNames(numberText, text, details, keys, where)
-                             : format.addTextToFileNames(text, details, keys, where);
-        result->details = std::move(details);
-        return result;
-    }).then(this, [this, sequence](const std::shared_ptr<RuleRunResult> &result) {
-        --m_ruleRunsInFlight;
-        finishRuleRun(sequence, *result);
-    });
-}
-
-void BRRenameViewController::finishRuleRun(quint64 sequence, RuleRunResult &result)
-{
-    // A later text was typed, or the rule or the list was cleared, since this run began.
-    if (sequence != m_ruleRunSequence || !result.report) {
-        Q_EMIT ruleRunLanded();
-        return;
-    }
-    bool missing = false;
-    for (const QString &key : std::as_const(result.report->missingKeys)) {
-        missing = true;
-        delete_(key);
-    }
-    // Rows edited by hand while the run worked keep what the user typed.
-    for (auto row = m_renameFileDetails.begin(); row != m_renameFileDetails.end(); ++row) {
-        const auto named = result.details.constFind(row.key());
-        if (named == result.details.cend() || row->editableState == RenameTexts::edited ||
-            named->sourceURL != row->sourceURL)
-            continue;
-        row->destinationURL = named->destinationURL;
-    }
-    if (missing)
-        showAlert(RenameTexts::missingFilesTitle, RenameTexts::missingFilesText);
-    setRenameFilesDict();
-    Q_EMIT ruleRunLanded();
-}
-
-void BRRenameViewController::clearDestinationFileNames()
-{
-    m_newNameText.reset();
-    m_numberText.reset();
-    m_formatOption.reset();
-    m_whereOption.reset();
-    m_addText.reset();
-    // Names of a run under way would bring the cleared rule back.
-    ++m_ruleRunSequence;
-    disableRenameButton();
-    removeDetailsForKey(QStringLiteral("destinationURL"));
-    reloadTableView();
-}
-
-std::optional<QString> BRRenameViewController::createNewFileName(int row) const
-{
-    if (!m_formatOption || !m_whereOption)
-        return std::nullopt;
-    if (*m_formatOption == RenameTexts::changeFullFileNames)
-        return BRRenameFormat::fullFileNameForRow(m_newNameText, m_numberText, *m_whereOption, row);
-    if (!m_addText || m_addText->isEmpty() || row < 0 || row >= m_renameFileDetailsKey.size())
-        return std::nullopt;
-    const auto record = m_renameFileDetails.constFind(m_renameFileDetailsKey.at(row));
-    if (record == m_renameFileDetails.cend())
-        return std::nullopt;
-    return BRRenameFormat::addedTextName(record->sourceURL, *m_addText, *m_whereOption);
-}
-
-void BRRenameViewController::updateNewFileName(QLineEdit *textField, std::optional<int> row)
-{
-    if (!textField)
-        return;
-    const int position = row ? *row : m_renameTableView->rowForView(textField);
-    if (position < 0 || position >= m_renameFileDetailsKey.size())
-        return;
-    const auto record = m_renameFileDetails.find(m_renameFileDetailsKey.at(position));
-    if (record == m_renameFileDetails.end())
-        return;
-    const QString text = textField->text();
-    if (text.isEmpty()) {
-        // The edit is withdrawn: the row follows the rule again, if there is one.
-        record->editableState.clear();
-        if (const auto ruleName = createNewFileName(position))
-            record->destinationURL = *ruleName;
-        else
-            record->destinationURL.reset();
-    } else if (record->destinationURL && *record->destinationURL != text) {
-        record->destinationURL = text;
-        record->editableState = RenameTexts::edited;
-    }
-    reloadTableView();
 }
 
 // ---------------------------------------------------------------------------------------
@@ -484,85 +229,17 @@ void BRRenameViewController::updateNewFileName(QLineEdit *textField, std::option
 
 void BRRenameViewController::renameAction()
 {
-    if (!m_formatOption)
-        return;
-    if (*m_formatOption == RenameTexts::changeFullFileNames) {
-        if (m_newNameText && !m_newNameText->isEmpty())
-            rename();
-    } else if (*m_formatOption == RenameTexts::addTextToExistingNames) {
-        if (m_addText && !m_addText->isEmpty())
-            rename();
-    }
+    m_list->renameWithRule();
 }
 
-void BRRenameViewController::rename()
+void BRRenameViewController::renameEnded(const QStringList &renamed, bool someFailed)
 {
-    // One run at a time: a second press while files move would race the first.
-    if (m_renameRunning || m_renameFileDetailsKey.isEmpty() || !m_brRenameFormat)
-        return;
-    closePopOver();
-    m_renameRunning = true;
-    const BRRenameFormat format = *m_brRenameFormat;
-    QtConcurrent::run([format, keys = m_renameFileDetailsKey, details = m_renameFileDetails,
-                       bookmarks = m_bookmarks]() mutable {
-        auto result = std::make_shared<RenameRunResult>();
-        result->report = format.renameFiles(keys, details, bookmarks);
-        result->keys = std::move(keys);
-        result->details = std::move(details);
-        result->bookmarks = std::move(bookmarks);
-        return result;
-    }).then(this, [this](const std::shared_ptr<RenameRunResult> &result) {
-        finishRenameRun(*result);
-    });
-}
-
-void BRRenameViewController::finishRenameRun(RenameRunResult &result)
-{
-    m_renameRunning = false;
-    // Outcomes first, so the rows still listed carry them when the report is made.
-    for (const QString &key : std::as_const(result.keys)) {
-        const auto done = result.details.constFind(key);
-        const auto row = m_renameFileDetails.find(key);
-        if (done == result.details.cend() || row == m_renameFileDetails.end())
-            continue;
-        row->State = done->State;
-        row->sourceURL = done->sourceURL;
-    }
-    // Bookmarks refreshed for files found somewhere else; none if the list was cleared.
-    if (!m_renameFileDetailsKey.isEmpty())
-        m_bookmarks.insert(result.bookmarks);
-    bool missing = false;
-    for (const QString &key : std::as_const(result.report.missingKeys)) {
-        missing = true;
-        delete_(key);
-    }
-    if (missing)
-        showAlert(RenameTexts::missingFilesTitle, RenameTexts::missingFilesText);
-    updateStatus();
-    Q_EMIT renameRunEnded();
-}
-
-void BRRenameViewController::updateStatus()
-{
-    QStringList renamed;
-    bool failed = false;
-    for (const QString &key : std::as_const(m_renameFileDetailsKey)) {
-        const auto row = m_renameFileDetails.constFind(key);
-        if (row == m_renameFileDetails.cend() || !row->destinationURL)
-            continue;
-        if (row->State == RenameTexts::failed)
-            failed = true;
-        else if (row->State == RenameTexts::success && !row->destinationURL->isEmpty())
-            renamed.append(*row->destinationURL);
-    }
-    if (failed)
+    if (someFailed)
         showAlert(QStringLiteral("Could not rename some files"),
                   QStringLiteral("Some files could not be renamed since they are locked or you "
                                  "don't have permission to modify them."));
     if (renamed.isEmpty())
         return;
-    clearAll();
-    reloadTableView();
     fadeOutThenShow(m_renameCompleteStatusView, true, true, true, false,
                     [this, renamed] { Q_EMIT m_center->renameComplete(renamed); });
 }
@@ -573,7 +250,7 @@ void BRRenameViewController::updateStatus()
 void BRRenameViewController::setFileSourceUrlsAfterDragAndDrop(const QList<QUrl> &urls)
 {
     fadeOutThenShow(m_dragAndDropView, false, true, false, true);
-    saveSourceUrls(urls);
+    m_list->add(urls);
 }
 
 void BRRenameViewController::displayDragAndDropView()
@@ -626,32 +303,13 @@ void BRRenameViewController::browseAction()
     const QList<QUrl> urls =
         m_openPanel.runModal(BRDragAndDropView::filesToRenameRequest(tr("Add files to rename")));
     if (!urls.isEmpty())
-        saveSourceUrls(urls);
-}
-
-void BRRenameViewController::clearAction()
-{
-    clearAll();
-    reloadTableView();
-    showDragAndDropView();
-}
-
-void BRRenameViewController::enableRenameButton()
-{
-    m_renameActive = true;
-    refreshRenameButtonTitle();
-}
-
-void BRRenameViewController::disableRenameButton()
-{
-    m_renameActive = false;
-    refreshRenameButtonTitle();
+        m_list->add(urls);
 }
 
 void BRRenameViewController::refreshRenameButtonTitle()
 {
     // The words stay "files" for a single file too.
-    const QString title = QStringLiteral("Rename %1 files").arg(m_renameFileDetailsKey.size());
+    const QString title = QStringLiteral("Rename %1 files").arg(m_list->rowCount());
     setRenameButtonTitle(title, m_renameActive ? BRColorHelper::color(255, 255, 255, 1.0)
                                                : BRColorHelper::color(255, 255, 255, 0.5));
 }
@@ -687,17 +345,16 @@ void BRRenameViewController::showPopOverForView(QWidget *sender)
 
 void BRRenameViewController::showPopOver(int row)
 {
-    if (row < 0 || row >= m_renameFileDetailsKey.size())
+    if (row < 0 || row >= m_list->rowCount())
         return;
-    const QString key = m_renameFileDetailsKey.at(row);
-    const auto record = m_renameFileDetails.constFind(key);
-    if (record == m_renameFileDetails.cend())
+    const QString key = m_list->keys().at(row);
+    const auto record = m_list->records().constFind(key);
+    if (record == m_list->records().cend())
         return;
     const QString path = record->sourceURL.toLocalFile();
     if (path.isEmpty()) {
         showAlert(fileDoesNotExistTitle, doesNotExistText(key));
-        delete_(key);
-        reloadTableView();
+        m_list->remove(key);
         return;
     }
     if (!QFileInfo::exists(path))
@@ -737,7 +394,11 @@ void BRRenameViewController::closePopOver()
 
 void BRRenameViewController::showAlert(const QString &title, const QString &description)
 {
-    m_alerts.runModal({title, description, {QStringLiteral("OK")}});
+    QPointer<BRRenameViewController> self(this);
+    QTimer::singleShot(0, this, [self, title, description] {
+        if (self)
+            self->m_alerts.runModal({title, description, {QStringLiteral("OK")}});
+    });
 }
 
 bool BRRenameViewController::showQuitAlert(const QString &title, const QString &message)
@@ -751,7 +412,7 @@ bool BRRenameViewController::windowShouldClose()
 {
     if (!m_appDelegate)
         return true;
-    if (!m_renameFileDetailsKey.isEmpty())
+    if (m_list->rowCount() > 0)
         return showQuitAlert(QStringLiteral("Quit Quillmere?"),
                              QStringLiteral("There are files selected for rename. Are you sure "
                                             "you want to quit Quillmere?"));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "NamePlacement.h"
+
 #include <QString>
 
 #include <optional>
@@ -7,18 +9,16 @@
 class QLineEdit;
 class QWidget;
 
-// What the rename panels, rows, popover and the rule worker ask of the rename screen.
-// The screen alone implements it; every call arrives on the main thread.
+// What the rename panels, rows and popover ask of the rename screen. The screen alone
+// implements it; every call arrives on the main thread.
 class BRRenameViewDelegate
 {
 public:
     virtual ~BRRenameViewDelegate() = default;
 
-    virtual void setRenameFilesDict() = 0;
-    virtual void updateStatus() = 0;
     virtual void renameUsingOption(const QString &newName, const QString &numberText,
-                                   const QString &where) = 0;
-    virtual void renameUsingAddTextOption(const QString &text, const QString &where) = 0;
+                                   NamePlacement where) = 0;
+    virtual void renameUsingAddTextOption(const QString &text, NamePlacement where) = 0;
     virtual void clearDestinationFileNames() = 0;
     // sender: a widget inside a row of the list.
     virtual void showPopOverForView(QWidget *sender) = 0;
@@ -27,6 +27,4 @@ public:
     // Without a row, the row is the one that holds the field.
     virtual void updateNewFileName(QLineEdit *textField, std::optional<int> row) = 0;
     virtual void removeRowFromTableView(QWidget *sender) = 0;
-    virtual void showAlert(const QString &title, const QString &description) = 0;
-    virtual void delete_(const QString &key) = 0;
 };

@@ -3,21 +3,35 @@
 #include "BRRenameDisableVibrancePopUpButton.h"
 #include "BRRenameRoundedTextField.h"
 #include "Look.h"
-#include "RenameRecord.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 
-BRRenameDisableVibrancePopUpButton *RenamePanelControls::makeRuleSwitch(const QString &objectName,
-                                                                        const QString &ownRule,
-                                                                        const QString &otherRule,
-                                                                        QWidget *parent)
+namespace {
+
+RenameRule otherRule(RenameRule rule)
+{
+    switch (rule) {
+    case RenameRule::ChangeFullNames:
+        return RenameRule::AddText;
+    case RenameRule::AddText:
+        return RenameRule::ChangeFullNames;
+    }
+    Q_UNREACHABLE();
+    return rule;
+}
+
+} // namespace
+
+BRRenameDisableVibrancePopUpButton *
+RenamePanelControls::makeRuleSwitch(const QString &objectName, RenameRule ownRule, QWidget *parent)
 {
     auto *ruleSwitch = new BRRenameDisableVibrancePopUpButton(parent);
     ruleSwitch->setObjectName(objectName);
     ruleSwitch->setAccessibleName(QStringLiteral("Rule"));
-    ruleSwitch->addItem(ownRule);
-    ruleSwitch->addItem(otherRule);
+    ruleSwitch->addItem(ruleTitle(ownRule), QVariant::fromValue(ownRule));
+    const RenameRule other = otherRule(ownRule);
+    ruleSwitch->addItem(switchTitle(other), QVariant::fromValue(other));
     ruleSwitch->setFont(Look::font(15));
     ruleSwitch->setMinimumHeight(fieldHeight);
     ruleSwitch->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -30,13 +44,65 @@ BRRenameDisableVibrancePopUpButton *RenamePanelControls::makeWherePopup(QWidget 
     auto *where = new BRRenameDisableVibrancePopUpButton(parent);
     where->setObjectName(QStringLiteral("whereOptionButton"));
     where->setAccessibleName(QStringLiteral("Where"));
-    where->addItem(RenameTexts::afterName);
-    where->addItem(RenameTexts::beforeName);
+    for (const NamePlacement placement : {NamePlacement::AfterName, NamePlacement::BeforeName})
+        where->addItem(placementTitle(placement), QVariant::fromValue(placement));
     where->setFont(Look::font(15));
     where->setMinimumHeight(fieldHeight);
     where->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     where->setCursor(Qt::PointingHandCursor);
     return where;
+}
+
+std::optional<RenameRule> RenamePanelControls::chosenRule(const QComboBox *ruleSwitch)
+{
+    const QVariant chosen = ruleSwitch->currentData();
+    if (chosen.metaType() != QMetaType::fromType<RenameRule>())
+        return std::nullopt;
+    return chosen.value<RenameRule>();
+}
+
+std::optional<NamePlacement> RenamePanelControls::chosenPlacement(const QComboBox *where)
+{
+    const QVariant chosen = where->currentData();
+    if (chosen.metaType() != QMetaType::fromType<NamePlacement>())
+        return std::nullopt;
+    return chosen.value<NamePlacement>();
+}
+
+QString RenamePanelControls::ruleTitle(RenameRule rule)
+{
+    switch (rule) {
+    case RenameRule::ChangeFullNames:
+        return QStringLiteral("Change full file names to");
+    case RenameRule::AddText:
+        return QStringLiteral("Add text to existing names");
+    }
+    Q_UNREACHABLE();
+    return {};
+}
+
+QString RenamePanelControls::switchTitle(RenameRule rule)
+{
+    switch (rule) {
+    case RenameRule::ChangeFullNames:
+        return QStringLiteral("Change full name");
+    case RenameRule::AddText:
+        return QStringLiteral("Add text to name");
+    }
+    Q_UNREACHABLE();
+    return {};
+}
+
+QString RenamePanelControls::placementTitle(NamePlacement where)
+{
+    switch (where) {
+    case NamePlacement::AfterName:
+        return QStringLiteral("After name");
+    case NamePlacement::BeforeName:
+        return QStringLiteral("Before name");
+    }
+    Q_UNREACHABLE();
+    return {};
 }
 
 BRRenameRoundedTextField *RenamePanelControls::makeTextField(const QString &objectName,

@@ -1,16 +1,24 @@
 #include "RenameTableModel.h"
 
+#include "RenameList.h"
+
 #include <QMimeData>
 
 RenameTableModel::RenameTableModel(QObject *parent) : QAbstractListModel(parent) {}
 
-void RenameTableModel::setContents(const QStringList *keys, const RenameFileDetails *details)
+void RenameTableModel::setList(const RenameList *list)
 {
+    if (m_list)
+        disconnect(m_list, nullptr, this, nullptr);
     beginResetModel();
-    m_keys = keys;
-    m_details = details;
-    m_rowCount = m_keys ? static_cast<int>(m_keys->size()) : 0;
+    m_list = list;
+    m_rowCount = m_list ? m_list->rowCount() : 0;
     endResetModel();
+    if (!m_list)
+        return;
+    connect(m_list, &RenameList::rowsReset, this, &RenameTableModel::reload);
+    connect(m_list, &RenameList::namesChanged, this, &RenameTableModel::refreshNames);
+    connect(m_list, &QObject::destroyed, this, [this] { setList(nullptr); });
 }
 
 void RenameTableModel::setAcceptDrop(std::function<bool(const QList<QUrl> &)> acceptDrop)
@@ -21,7 +29,7 @@ void RenameTableModel::setAcceptDrop(std::function<bool(const QList<QUrl> &)> ac
 void RenameTableModel::reload()
 {
     beginResetModel();
-    m_rowCount = m_keys ? static_cast<int>(m_keys->size()) : 0;
+    m_rowCount = m_list ? m_list->rowCount() : 0;
     endResetModel();
 }
 
@@ -33,27 +41,28 @@ void RenameTableModel::refreshNames()
 
 QString RenameTableModel::keyAt(int row) const
 {
-    if (!m_keys || row < 0 || row >= m_rowCount || row >= m_keys->size())
+    if (!m_list || row < 0 || row >= m_rowCount || row >= m_list->rowCount())
         return {};
-    return m_keys->at(row);
+    return m_list->keys().at(row);
 }
 
 const RenameRecord *RenameTableModel::recordAt(int row) const
 {
-    if (!m_details)
+    if (!m_list)
         return nullptr;
     const QString key = keyAt(row);
     if (key.isNull())
         return nullptr;
-    const auto found = m_details->constFind(key);
-    return found == m_details->constEnd() ? nullptr : &found.value();
+    const RenameFileDetails &records = m_list->records();
+    const auto found = records.constFind(key);
+    return found == records.constEnd() ? nullptr : &found.value();
 }
 
 int RenameTableModel::rowOfKey(const QString &key) const
 {
-    if (!m_keys)
+    if (!m_list)
         return -1;
-    const qsizetype row = m_keys->indexOf(key);
+    const qsizetype row = m_list->keys().indexOf(key);
     return row < m_rowCount ? static_cast<int>(row) : -1;
 }
 
@@ -98,7 +107,7 @@ QVariant RenameTableModel::data(const QModelIndex &index, int role) const
     case DestinationRole:
         return record->destinationURL ? QVariant(*record->destinationURL) : QVariant();
     case EditedRole:
-        return record->editableState == RenameTexts::edited;
+        return record->nameSource == NameSource::HandEdit;
     default:
         return {};
     }

@@ -4,17 +4,20 @@
 
 #include <QAbstractListModel>
 #include <QList>
+#include <QPointer>
 #include <QStringList>
 #include <QUrl>
 
 #include <functional>
 
-// The rows of the rename list, read straight from the rename screen's key list and
-// records: no copy is kept, so ten thousand rows cost nothing here.
+class RenameList;
+
+// The rows of the rename list, read straight from a RenameList's keys and records: no
+// copy is kept, so ten thousand rows cost nothing here.
 //
-// The screen changes its lists first and calls reload() after; until then the model keeps
-// the row count it last announced, so a view never meets a count it was not told of.
-// Files dropped between rows or below the last one go to the screen's drop handler.
+// The list changes its rows first and says so after (rowsReset); until then the model
+// keeps the row count it last announced, so a view never meets a count it was not told
+// of. Files dropped between rows or below the last one go to the drop handler.
 class RenameTableModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -32,14 +35,10 @@ public:
 
     explicit RenameTableModel(QObject *parent = nullptr);
 
-    // The screen's lists, read on the main thread only. Either may be null: no rows.
-    void setContents(const QStringList *keys, const RenameFileDetails *details);
+    // The list shown, read on its own thread only; null: no rows.
+    void setList(const RenameList *list);
     // Called with the dropped URLs; its answer is the drop's. Unset: drops are refused.
     void setAcceptDrop(std::function<bool(const QList<QUrl> &)> acceptDrop);
-    // The lists changed: every view starts over from them.
-    void reload();
-    // The same rows with other names or outcomes: repaints without rebuilding the view.
-    void refreshNames();
 
     QString keyAt(int row) const;
     const RenameRecord *recordAt(int row) const;
@@ -60,8 +59,12 @@ public:
                       const QModelIndex &parent) override;
 
 private:
-    const QStringList *m_keys = nullptr;
-    const RenameFileDetails *m_details = nullptr;
+    // The rows came, went or moved: every view starts over.
+    void reload();
+    // The same rows with other names or outcomes: repaints without rebuilding the view.
+    void refreshNames();
+
+    QPointer<const RenameList> m_list;
     std::function<bool(const QList<QUrl> &)> m_acceptDrop;
     int m_rowCount = 0;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BRRenameViewDelegate.h"
+#include "RenamePanelControls.h"
 
 #include <QLineEdit>
 #include <QStringList>
@@ -17,16 +18,16 @@ public:
     // The text of the field at the moment it was handed over.
     QString lastFieldText;
 
-    void setRenameFilesDict() override { calls << QStringLiteral("setRenameFilesDict"); }
-    void updateStatus() override { calls << QStringLiteral("updateStatus"); }
     void renameUsingOption(const QString &newName, const QString &numberText,
-                           const QString &where) override
+                           NamePlacement where) override
     {
-        calls << QStringLiteral("renameUsingOption(%1|%2|%3)").arg(newName, numberText, where);
+        calls << QStringLiteral("renameUsingOption(%1|%2|%3)")
+                     .arg(newName, numberText, RenamePanelControls::placementTitle(where));
     }
-    void renameUsingAddTextOption(const QString &text, const QString &where) override
+    void renameUsingAddTextOption(const QString &text, NamePlacement where) override
     {
-        calls << QStringLiteral("renameUsingAddTextOption(%1|%2)").arg(text, where);
+        calls << QStringLiteral("renameUsingAddTextOption(%1|%2)")
+                     .arg(text, RenamePanelControls::placementTitle(where));
     }
     void clearDestinationFileNames() override
     {
@@ -51,9 +52,4 @@ public:
         lastSender = sender;
         calls << QStringLiteral("removeRowFromTableView");
     }
-    void showAlert(const QString &title, const QString &) override
-    {
-        calls << QStringLiteral("showAlert(%1)").arg(title);
-    }
-    void delete_(const QString &key) override { calls << QStringLiteral("delete(%1)").arg(key); }
 };

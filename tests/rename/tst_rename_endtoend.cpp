@@ -2,6 +2,7 @@
 #include "BRRenameCompleteView.h"
 #include "BRRenameTableView.h"
 #include "BRRenameViewController.h"
+#include "RenameList.h"
 #include "RowAnchoredPopover.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
@@ -55,7 +56,7 @@ private Q_SLOTS:
         QDropEvent drop(at, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(target, &drop);
         QTRY_VERIFY(screen.renameTableView()->isVisible());
-        QCOMPARE(screen.renameFileDetailsKey().join(u' '), u"a.jpg b.jpg c.png");
+        QCOMPARE(screen.renameList()->keys().join(u' '), u"a.jpg b.jpg c.png");
         auto *renameButton = screen.findChild<QPushButton *>(u"renameButton"_s);
         QCOMPARE(renameButton->text(), u"Rename 3 files"_s);
 
@@ -63,8 +64,8 @@ private Q_SLOTS:
         auto *newName = screen.findChild<QLineEdit *>(u"newNameTextField"_s);
         QVERIFY(newName && newName->isVisible());
         QTest::keyClicks(newName, u"Trip"_s);
-        QTRY_VERIFY(!screen.ruleRunPending());
-        QTRY_COMPARE(screen.renameFileDetails()[u"c.png"_s].destinationURL.value_or(QString()),
+        QTRY_VERIFY(!screen.renameList()->ruleRunPending());
+        QTRY_COMPARE(screen.renameList()->records()[u"c.png"_s].destinationURL.value_or(QString()),
                      u"Trip3"_s);
 
         // One name changed in the popover of the second row.
@@ -80,11 +81,11 @@ private Q_SLOTS:
         field->selectAll();
         QTest::keyClicks(field, u"Bee"_s);
         QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(screen.renameFileDetails()[u"b.jpg"_s].editableState, u"edited"_s);
+        QCOMPARE(screen.renameList()->records()[u"b.jpg"_s].nameSource, NameSource::HandEdit);
         screen.closePopOver();
 
         // The rename, and what it leaves.
-        QSignalSpy ended(&screen, &BRRenameViewController::renameRunEnded);
+        QSignalSpy ended(screen.renameList(), &RenameList::renameEnded);
         QTest::mouseClick(renameButton, Qt::LeftButton);
         QTRY_COMPARE(ended.size(), 1);
         QTRY_VERIFY(screen.renameCompleteStatusView()->isVisible());

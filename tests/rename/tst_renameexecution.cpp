@@ -59,15 +59,15 @@ struct Listing
         const QUrl url = QUrl::fromLocalFile(path);
         const QString key = url.fileName();
         format.saveBookmark(url, bookmarks);
-        details.insert(key, RenameRecord{url, newName, QString(), QString()});
+        details.insert(key, RenameRecord{url, newName, {}, {}});
         keys.append(key);
     }
     ExecutionReport run() { return format.renameFiles(keys, details, bookmarks); }
-    QStringList states() const
+    QList<RenameOutcome> states() const
     {
-        QStringList states;
+        QList<RenameOutcome> states;
         for (const QString &key : keys)
-            states.append(details.value(key).State);
+            states.append(details.value(key).outcome);
         return states;
     }
     QString content(const QString &relativePath) const
@@ -89,9 +89,9 @@ private Q_SLOTS:
         for (const QString &name : {u"a.jpg"_s, u"b.jpg"_s, u"c.png"_s})
             l.list(name);
         QVERIFY(l.format.changeFullFileNames(u"1"_s, u"Trip"_s, l.details, l.keys,
-                                             RenameTexts::afterName));
+                                             NamePlacement::AfterName));
         QCOMPARE(l.run().missingKeys, QStringList());
-        QCOMPARE(l.states(), QStringList(3, RenameTexts::success));
+        QCOMPARE(l.states(), QList<RenameOutcome>(3, RenameOutcome::Succeeded));
         QCOMPARE(treeOf(l.dir.path()),
                  (QStringList{u"Trip1.jpg=a.jpg"_s, u"Trip2.jpg=b.jpg"_s, u"Trip3.png=c.png"_s}));
         // The rows still name where the files were; the screen drops them after a success.
@@ -105,36 +105,36 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("files");
         QTest::addColumn<QStringList>("names");
         QTest::addColumn<QStringList>("present");
-        QTest::addColumn<QStringList>("states");
+        QTest::addColumn<QList<RenameOutcome>>("states");
         QTest::addColumn<QStringList>("tree");
-        const QString ok = RenameTexts::success;
-        const QString failed = RenameTexts::failed;
+        const RenameOutcome ok = RenameOutcome::Succeeded;
+        const RenameOutcome failed = RenameOutcome::Failed;
         QTest::newRow("some failed")
             << QStringList{u"a.jpg"_s, u"b.jpg"_s} << QStringList{u"a1"_s, u"a2"_s}
-            << QStringList{u"a1.jpg"_s} << QStringList{failed, ok}
+            << QStringList{u"a1.jpg"_s} << QList<RenameOutcome>{failed, ok}
             << QStringList{u"a.jpg=a.jpg"_s, u"a1.jpg=present"_s, u"a2.jpg=b.jpg"_s};
         QTest::newRow("none moved")
             << QStringList{u"a.jpg"_s, u"b.jpg"_s} << QStringList{u"x"_s, u"y"_s}
-            << QStringList{u"x.jpg"_s, u"y.jpg"_s} << QStringList{failed, failed}
+            << QStringList{u"x.jpg"_s, u"y.jpg"_s} << QList<RenameOutcome>{failed, failed}
             << QStringList{u"a.jpg=a.jpg"_s, u"b.jpg=b.jpg"_s, u"x.jpg=present"_s,
                            u"y.jpg=present"_s};
         QTest::newRow("two rows, one name")
             << QStringList{u"a.1.txt"_s, u"a.2.txt"_s} << QStringList{u"a-x"_s, u"a-x"_s}
-            << QStringList() << QStringList{ok, failed}
+            << QStringList() << QList<RenameOutcome>{ok, failed}
             << QStringList{u"a-x.txt=a.1.txt"_s, u"a.2.txt=a.2.txt"_s};
         QTest::newRow("the name it has")
             << QStringList{u"a.jpg"_s} << QStringList{u"a"_s} << QStringList()
-            << QStringList{failed} << QStringList{u"a.jpg=a.jpg"_s};
+            << QList<RenameOutcome>{failed} << QStringList{u"a.jpg=a.jpg"_s};
         QTest::newRow("a folder of that name")
             << QStringList{u"a.jpg"_s} << QStringList{u"Trip"_s} << QStringList{u"Trip.jpg/"_s}
-            << QStringList{failed} << QStringList{u"a.jpg=a.jpg"_s, u"Trip.jpg=<none>"_s};
+            << QList<RenameOutcome>{failed} << QStringList{u"a.jpg=a.jpg"_s, u"Trip.jpg=<none>"_s};
     }
     void takenNamesFailAndTheRestGoOn()
     {
         QFETCH(QStringList, files);
         QFETCH(QStringList, names);
         QFETCH(QStringList, present);
-        QFETCH(QStringList, states);
+        QFETCH(QList<RenameOutcome>, states);
         QFETCH(QStringList, tree);
         Listing l;
         for (qsizetype i = 0; i < files.size(); ++i)
@@ -186,10 +186,10 @@ private Q_SLOTS:
         const QStringList before = treeOf(l.dir.path());
         QCOMPARE(l.run().missingKeys, QStringList());
         if (moved.isEmpty()) {
-            QCOMPARE(l.states(), QStringList{RenameTexts::failed});
+            QCOMPARE(l.states(), QList<RenameOutcome>{RenameOutcome::Failed});
             QCOMPARE(treeOf(l.dir.path()), before);
         } else {
-            QCOMPARE(l.states(), QStringList{RenameTexts::success});
+            QCOMPARE(l.states(), QList<RenameOutcome>{RenameOutcome::Succeeded});
             QCOMPARE(treeOf(l.dir.path()), sorted({moved + u'=' + file, u"sub=<none>"_s}));
         }
     }
@@ -203,7 +203,7 @@ private Q_SLOTS:
         l.list(u"c.jpg"_s, QString());
         l.dir.removeFile(u"c.jpg"_s);
         QCOMPARE(l.run().missingKeys, QStringList());
-        QCOMPARE(l.states(), QStringList(3, QString()));
+        QCOMPARE(l.states(), QList<RenameOutcome>(3, RenameOutcome::NotTried));
         QCOMPARE(treeOf(l.dir.path()), (QStringList{u"a.jpg=a.jpg"_s, u"b.jpg=b.jpg"_s}));
     }
 
@@ -215,7 +215,7 @@ private Q_SLOTS:
         l.list(u"photos.2019"_s, u"Trip1"_s);
         l.list(u"Album"_s, u"Trip2"_s);
         l.run();
-        QCOMPARE(l.states(), QStringList(2, RenameTexts::success));
+        QCOMPARE(l.states(), QList<RenameOutcome>(2, RenameOutcome::Succeeded));
         QCOMPARE(treeOf(l.dir.path()),
                  (QStringList{u"Trip1.2019=<none>"_s, u"Trip1.2019/in.jpg=in"_s, u"Trip2=<none>"_s,
                               u"Trip2/in.jpg=in"_s}));
@@ -231,7 +231,9 @@ private Q_SLOTS:
         l.dir.removeFile(u"b.jpg"_s);
         l.dir.createFile(u"newcomer.jpg"_s, "newcomer");
         QCOMPARE(l.run().missingKeys, QStringList{u"b.jpg"_s});
-        QCOMPARE(l.states(), (QStringList{RenameTexts::success, QString(), RenameTexts::success}));
+        QCOMPARE(l.states(),
+                 (QList<RenameOutcome>{RenameOutcome::Succeeded, RenameOutcome::NotTried,
+                                       RenameOutcome::Succeeded}));
         QCOMPARE(treeOf(l.dir.path()), (QStringList{u"new-a.jpg=a.jpg"_s, u"new-c.png=c.png"_s,
                                                     u"newcomer.jpg=newcomer"_s}));
     }
@@ -253,7 +255,7 @@ private Q_SLOTS:
         l.list(u"Pictures/a.jpg"_s, u"Trip1"_s);
         QVERIFY(QDir().rename(l.dir.filePath(u"Pictures/a.jpg"_s), l.dir.filePath(movedTo)));
         QCOMPARE(l.run().missingKeys, QStringList());
-        QCOMPARE(l.states(), QStringList{RenameTexts::success});
+        QCOMPARE(l.states(), QList<RenameOutcome>{RenameOutcome::Succeeded});
         const QString folder = QFileInfo(l.dir.filePath(movedTo)).path();
         QCOMPARE(contentOf(folder + u"/Trip1.jpg"_s), QByteArray("Pictures/a.jpg"));
         QCOMPARE(l.details.value(u"a.jpg"_s).sourceURL,
@@ -268,7 +270,7 @@ private Q_SLOTS:
             l.list(u"Pictures/"_s + name, u"new-"_s + name.left(1));
         QVERIFY(QDir().rename(l.dir.filePath(u"Pictures"_s), l.dir.filePath(u"Old"_s)));
         QCOMPARE(l.run().missingKeys, QStringList());
-        QCOMPARE(l.states(), QStringList(3, RenameTexts::success));
+        QCOMPARE(l.states(), QList<RenameOutcome>(3, RenameOutcome::Succeeded));
         QCOMPARE(
             treeOf(l.dir.path()),
             (QStringList{u"Old=<none>"_s, u"Old/new-a.jpg=Pictures/a.jpg"_s,

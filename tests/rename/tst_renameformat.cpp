@@ -13,8 +13,8 @@ RenameFileDetails threeRows()
 {
     RenameFileDetails details;
     for (const QString &key : threeKeys)
-        details.insert(key, RenameRecord{QUrl::fromLocalFile(u"/photos/"_s + key), u"old-"_s + key,
-                                         QString(), QString()});
+        details.insert(
+            key, RenameRecord{QUrl::fromLocalFile(u"/photos/"_s + key), u"old-"_s + key, {}, {}});
     return details;
 }
 
@@ -37,12 +37,12 @@ private Q_SLOTS:
     void fullNameRule_data()
     {
         QTest::addColumn<QString>("numberText");
-        QTest::addColumn<QString>("where");
+        QTest::addColumn<NamePlacement>("where");
         QTest::addColumn<QStringList>("expected");
-        const QString after = RenameTexts::afterName;
+        const NamePlacement after = NamePlacement::AfterName;
         QTest::newRow("after") << u"1"_s << after
                                << QStringList{u"Trip1"_s, u"Trip2"_s, u"Trip3"_s};
-        QTest::newRow("before") << u"1"_s << RenameTexts::beforeName
+        QTest::newRow("before") << u"1"_s << NamePlacement::BeforeName
                                 << QStringList{u"1Trip"_s, u"2Trip"_s, u"3Trip"_s};
         QTest::newRow("empty number counts from 1")
             << QString() << after << QStringList{u"Trip1"_s, u"Trip2"_s, u"Trip3"_s};
@@ -73,7 +73,7 @@ private Q_SLOTS:
     void fullNameRule()
     {
         QFETCH(QString, numberText);
-        QFETCH(QString, where);
+        QFETCH(NamePlacement, where);
         QFETCH(QStringList, expected);
         RenameFileDetails details = threeRows();
         const auto report =
@@ -90,10 +90,10 @@ private Q_SLOTS:
     {
         RenameFileDetails details = threeRows();
         QCOMPARE(BRRenameFormat().changeFullFileNames(u"1"_s, std::nullopt, details, threeKeys,
-                                                      RenameTexts::afterName),
+                                                      NamePlacement::AfterName),
                  std::nullopt);
         QCOMPARE(BRRenameFormat().addTextToFileNames(QString(), details, threeKeys,
-                                                     RenameTexts::afterName),
+                                                     NamePlacement::AfterName),
                  std::nullopt);
         QCOMPARE(namesOf(details, threeKeys),
                  (QStringList{u"old-a.jpg"_s, u"old-b.jpg"_s, u"old-c.png"_s}));
@@ -105,7 +105,7 @@ private Q_SLOTS:
     {
         RenameFileDetails details = threeRows();
         details[u"b.jpg"_s].destinationURL = u"Bee"_s;
-        details[u"b.jpg"_s].editableState = RenameTexts::edited;
+        details[u"b.jpg"_s].nameSource = NameSource::HandEdit;
         details.insert(u"lost.jpg"_s, RenameRecord{QUrl(), u"old-lost"_s, {}, {}});
         details.insert(u"web.jpg"_s,
                        RenameRecord{QUrl(u"https://example.org/web.jpg"_s), u"old-web"_s, {}, {}});
@@ -117,14 +117,14 @@ private Q_SLOTS:
         const QStringList untouchedNames{u"old-lost"_s, u"old-web"_s, u"old-left"_s};
 
         auto report = BRRenameFormat().changeFullFileNames(u"1"_s, u"Trip"_s, details, keys,
-                                                           RenameTexts::afterName);
+                                                           NamePlacement::AfterName);
         QCOMPARE(report->missingKeys, (QStringList{u"lost.jpg"_s, u"web.jpg"_s}));
         QCOMPARE(namesOf(details, threeKeys), (QStringList{u"Trip1"_s, u"Bee"_s, u"Trip3"_s}));
         QCOMPARE(namesOf(details, untouched), untouchedNames);
         QVERIFY(!details.contains(u"gone.jpg"_s));
 
         report =
-            BRRenameFormat().addTextToFileNames(u"-x"_s, details, keys, RenameTexts::beforeName);
+            BRRenameFormat().addTextToFileNames(u"-x"_s, details, keys, NamePlacement::BeforeName);
         QCOMPARE(report->missingKeys, (QStringList{u"lost.jpg"_s, u"web.jpg"_s}));
         QCOMPARE(namesOf(details, threeKeys), (QStringList{u"-xa"_s, u"Bee"_s, u"-xc"_s}));
         QCOMPARE(namesOf(details, untouched), untouchedNames);
@@ -135,13 +135,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<std::optional<QString>>("newName");
         QTest::addColumn<std::optional<QString>>("numberText");
-        QTest::addColumn<QString>("where");
+        QTest::addColumn<NamePlacement>("where");
         QTest::addColumn<int>("row");
         QTest::addColumn<QString>("expected");
         const std::optional<QString> trip = u"Trip"_s;
-        const QString after = RenameTexts::afterName;
+        const NamePlacement after = NamePlacement::AfterName;
         QTest::newRow("as in a run") << trip << std::optional(u"1"_s) << after << 1 << u"Trip2"_s;
-        QTest::newRow("before") << trip << std::optional(u"7"_s) << RenameTexts::beforeName << 0
+        QTest::newRow("before") << trip << std::optional(u"7"_s) << NamePlacement::BeforeName << 0
                                 << u"7Trip"_s;
         QTest::newRow("empty number")
             << trip << std::optional(QString()) << after << 2 << u"Trip3"_s;
@@ -166,7 +166,7 @@ private Q_SLOTS:
     {
         QFETCH(std::optional<QString>, newName);
         QFETCH(std::optional<QString>, numberText);
-        QFETCH(QString, where);
+        QFETCH(NamePlacement, where);
         QFETCH(int, row);
         QFETCH(QString, expected);
         const auto name = BRRenameFormat::fullFileNameForRow(newName, numberText, where, row);
@@ -176,10 +176,10 @@ private Q_SLOTS:
     void addTextRule_data()
     {
         QTest::addColumn<QString>("fileName");
-        QTest::addColumn<QString>("where");
+        QTest::addColumn<NamePlacement>("where");
         QTest::addColumn<QString>("expected");
-        const QString after = RenameTexts::afterName;
-        const QString before = RenameTexts::beforeName;
+        const NamePlacement after = NamePlacement::AfterName;
+        const NamePlacement before = NamePlacement::BeforeName;
         QTest::newRow("one dot") << u"report.pdf"_s << after << u"report-x"_s;
         QTest::newRow("middle pieces dropped")
             << u"holiday.2019.final.jpg"_s << after << u"holiday-x"_s;
@@ -193,7 +193,7 @@ private Q_SLOTS:
     void addTextRule()
     {
         QFETCH(QString, fileName);
-        QFETCH(QString, where);
+        QFETCH(NamePlacement, where);
         QFETCH(QString, expected);
         const QUrl url = QUrl::fromLocalFile(u"/home/user/"_s + fileName);
         QCOMPARE(BRRenameFormat::addedTextName(url, u"-x"_s, where), expected);

@@ -1,5 +1,5 @@
 // The rename screen's views: the drop target and its browse button, the completion view,
-// the list with its model, painted rows and live cell, and the per-file popover.
+// the list with its painted rows and live cell, and the per-file popover.
 
 #include "BRDragAndDropImageView.h"
 #include "BRDragAndDropView.h"
@@ -10,6 +10,7 @@
 #include "BRRenameTableViewCell.h"
 #include "LookColors.h"
 #include "RecordingRenameDelegate.h"
+#include "RenameList.h"
 #include "RenameNotificationCenter.h"
 #include "RenameTableModel.h"
 #include "ScriptedOpenPanel.h"
@@ -59,23 +60,38 @@ bool drag(QWidget *target, const QMimeData &data, QPoint pos, bool drop)
 // A list of four rows, shown: a rule name, a typed name, no name, and an emptied name.
 struct List
 {
-    QStringList keys{u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s};
-    RenameFileDetails details;
+    RenameList list;
     RecordingRenameDelegate delegate;
     BRRenameTableView table;
 
     List()
     {
-        for (const QString &key : std::as_const(keys))
-            details.insert(key, RenameRecord{file(u"/nowhere/"_s + key), QString(), {}, {}});
-        details[u"a.txt"_s].destinationURL = u"Trip1"_s;
-        details[u"b.txt"_s].destinationURL = u"Bee"_s;
-        details[u"b.txt"_s].editableState = u"edited"_s;
-        details[u"c.txt"_s].destinationURL = std::nullopt;
+        list.add({file(u"/nowhere/a.txt"_s), file(u"/nowhere/b.txt"_s), file(u"/nowhere/c.txt"_s)});
+        list.setFullNameRule(u"Trip"_s, u"1"_s, NamePlacement::AfterName);
+        // A run that never lands shows in names(), which a test compares.
+        Q_UNUSED(QTest::qWaitFor([this] { return !list.ruleRunPending(); }));
+        list.setHandName(1, u"Bee"_s);
+        // A number that cannot be read: rule runs land nothing now, and the withdrawn
+        // name of c.txt has no rule name to fall back to.
+        list.setFullNameRule(u"Trip"_s, u"x"_s, NamePlacement::AfterName);
+        list.setHandName(2, QString());
+        // Added after all that, d.txt keeps the empty name every file starts with.
+        list.add({file(u"/nowhere/d.txt"_s)});
         table.setRenameDelegate(&delegate);
-        table.renameModel()->setContents(&keys, &details);
+        table.renameModel()->setList(&list);
         table.resize(800, 600);
         table.show();
+    }
+    // The rows as the fixture promises them.
+    QString names() const
+    {
+        QStringList names;
+        for (const QString &key : list.keys()) {
+            const RenameRecord &row = list.records()[key];
+            names.append(key + u'=' + (row.destinationURL ? *row.destinationURL : u"-"_s) +
+                         (row.nameSource == NameSource::HandEdit ? u"*"_s : QString()));
+        }
+        return names.join(u' ');
     }
 
     QPoint centreOf(int row) const
@@ -114,7 +130,6 @@ private Q_SLOTS:
     void browseChoosesFilesInAnOpenPanel();
     void completionCountsTheRenamedFiles();
 
-    void modelReadsTheScreensLists();
     void dropsGoBetweenRowsNeverOntoOne();
 
     void liveCellFollowsTheMouse();
@@ -227,74 +242,20 @@ void TestRenameViews::completionCountsTheRenamedFiles()
     QCOMPARE(done.size(), 1);
 }
 
-void TestRenameViews::modelReadsTheScreensLists()
-{
-    QStringList keys{u"Holiday"_s, u"a.txt"_s};
-    RenameFileDetails details;
-    details.insert(u"Holiday"_s,
-                   RenameRecord{QUrl(u"file:///tmp/Holiday/"_s), std::nullopt, u"edited"_s, {}});
-    details.insert(u"a.txt"_s, RenameRecord{file(u"/tmp/a.txt"_s), QString(), {}, {}});
-    RenameTableModel model;
-    QCOMPARE(model.rowCount(), 0);
-    model.setContents(&keys, &details);
-    QCOMPARE(model.rowCount(), 2);
-
-    const QModelIndex folder = model.index(0, 0);
-    QCOMPARE(folder.data(Qt::DisplayRole).toString(), u"Holiday"_s);
-    QCOMPARE(folder.data(RenameTableModel::KeyRole).toString(), u"Holiday"_s);
-    QVERIFY(!folder.data(RenameTableModel::DestinationRole).isValid());
-    QVERIFY(folder.data(RenameTableModel::EditedRole).toBool());
-    const QModelIndex plain = model.index(1, 0);
-    QCOMPARE(plain.data(RenameTableModel::SourcePathRole).toString(), u"/tmp/a.txt"_s);
-    QVERIFY(plain.data(RenameTableModel::DestinationRole).isValid());
-    QCOMPARE(plain.data(RenameTableModel::DestinationRole).toString(), QString());
-    QVERIFY(!plain.data(RenameTableModel::EditedRole).toBool());
-
-    // The screen changes its lists first: views hear of it only at the reload.
-    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
-    keys.append(u"b.txt"_s);
-    QCOMPARE(model.rowCount(), 2);
-    QCOMPARE(model.rowOfKey(u"b.txt"_s), -1);
-    model.reload();
-    QCOMPARE(resets.size(), 1);
-    QCOMPARE(model.rowCount(), 3);
-    // A key without its record yet shows nothing rather than failing.
-    QCOMPARE(model.index(2, 0).data(Qt::DisplayRole), QVariant());
-    keys.clear();
-    QCOMPARE(model.keyAt(1), QString());
-}
-
 void TestRenameViews::dropsGoBetweenRowsNeverOntoOne()
 {
     List list;
+    QCOMPARE(list.names(), u"a.txt=Trip1 b.txt=Bee* c.txt=- d.txt="_s);
     RenameTableModel *model = list.table.renameModel();
     const auto files = uriList({file(u"/tmp/x.jpg"_s)});
-    QMimeData text;
-    text.setText(u"x.jpg"_s);
-    QVERIFY(!model->canDropMimeData(files.get(), Qt::CopyAction, -1, -1, model->index(0, 0)));
-    QVERIFY(model->canDropMimeData(files.get(), Qt::CopyAction, 1, 0, QModelIndex()));
-    QVERIFY(model->canDropMimeData(files.get(), Qt::MoveAction, -1, -1, QModelIndex()));
-    QVERIFY(!model->canDropMimeData(&text, Qt::CopyAction, 1, 0, QModelIndex()));
-    QCOMPARE(model->mimeTypes(), QStringList{u"text/uri-list"_s});
-
-    // No handler: refused. Then the handler has the say, and gets the URLs.
-    QVERIFY(!model->dropMimeData(files.get(), Qt::CopyAction, 1, 0, QModelIndex()));
     QList<QUrl> handed;
-    bool answer = false;
     model->setAcceptDrop([&](const QList<QUrl> &urls) {
         handed = urls;
-        return answer;
+        return true;
     });
-    QVERIFY(!model->dropMimeData(files.get(), Qt::CopyAction, 1, 0, QModelIndex()));
-    QCOMPARE(handed, files->urls());
-    answer = true;
-    QVERIFY(model->dropMimeData(files.get(), Qt::CopyAction, 1, 0, QModelIndex()));
-    handed.clear();
-    QVERIFY(!model->dropMimeData(files.get(), Qt::CopyAction, -1, -1, model->index(0, 0)));
-    QVERIFY(handed.isEmpty());
 
-    // The same through the list: the middle of a row refuses, its edge and the empty area
-    // below the rows take the files.
+    // The middle of a row refuses, its edge and the empty area below the rows take the
+    // files.
     QWidget *viewport = list.table.viewport();
     const QRect first = list.table.visualRect(model->index(0, 0));
     QVERIFY(!drag(viewport, *files, first.center(), false));
@@ -417,22 +378,22 @@ void TestRenameViews::liveCellFollowsItsKeyThroughReloads()
 
     // The row under the mouse leaves: the cell takes the row that comes under it.
     QVERIFY(list.hover(0));
-    list.keys.removeFirst();
-    model->reload();
+    list.list.remove(u"a.txt"_s);
     BRRenameTableViewCell *cell = list.table.cellForRow(0);
     QVERIFY(cell);
     QCOMPARE(cell->sourceFileNamesLabel()->text(), u"b.txt"_s);
     QCOMPARE(cell->destFileNameLabel()->text(), u"Bee"_s);
 
-    // A name being typed survives a reload from a rule run, and moves with its file.
+    // A name being typed survives another name landing for its row, and moves with its
+    // file when a row comes before it.
     QLineEdit *field = cell->destFileNameLabel();
     field->setFocus();
     QTRY_VERIFY(field->hasFocus());
     field->selectAll();
     QTest::keyClicks(field, u"Be"_s);
-    list.keys.prepend(u"a.txt"_s);
-    list.details[u"b.txt"_s].destinationURL = u"Trip2"_s;
-    model->reload();
+    list.list.setHandName(0, u"Trip2"_s);
+    QCOMPARE(field->text(), u"Be"_s);
+    list.list.add({file(u"/nowhere/a.txt"_s)});
     QCOMPARE(list.table.rowForView(field), 1);
     QCOMPARE(list.table.cellForRow(1), cell);
     QCOMPARE(field->text(), u"Be"_s);
@@ -444,8 +405,7 @@ void TestRenameViews::liveCellFollowsItsKeyThroughReloads()
 
     // The file being named leaves the list: its cell goes, nothing is committed for it.
     list.delegate.calls.clear();
-    list.keys.removeAll(u"b.txt"_s);
-    model->reload();
+    list.list.remove(u"b.txt"_s);
     QCOMPARE(list.table.rowForView(field), -1);
     QVERIFY(!field->hasFocus());
     QVERIFY(list.delegate.calls.isEmpty());
