@@ -4,7 +4,6 @@
 #include "ApplicationStatus.h"
 #include "BRAddTextViewController.h"
 #include "BRChangeFileNameViewController.h"
-#include "BRColorHelper.h"
 #include "BRDragAndDropView.h"
 #include "BRFilePreviewPopoverViewController.h"
 #include "BRObjectClass.h"
@@ -13,8 +12,9 @@
 #include "BRRenameTabViewController.h"
 #include "BRRenameTableView.h"
 #include "BRRenameViewRenameButton.h"
+#include "Look.h"
+#include "LookStyleSheets.h"
 #include "OpenPanel.h"
-#include "RenameFont.h"
 #include "RenameList.h"
 #include "RenameNotificationCenter.h"
 #include "RenameTableModel.h"
@@ -104,17 +104,11 @@ void BRRenameViewController::buildScreen()
 
     auto *bar = new QWidget(m_renameCustomView);
     bar->setObjectName(QStringLiteral("renameButtonBar"));
-    bar->setStyleSheet(QStringLiteral(
-        "#renameButtonBar { background: rgb(247, 247, 247); border-top: 1px solid rgb(226, 226, "
-        "226); }"));
+    bar->setStyleSheet(Look::StyleSheet::buttonBar(bar->objectName()));
     auto *barLayout = new QHBoxLayout(bar);
     barLayout->setContentsMargins(24, 12, 24, 12);
     barLayout->setSpacing(12);
-    const QString plainButton = QStringLiteral(
-        "QPushButton { color: rgb(74, 74, 74); background: white; border: 1px solid rgb(205, "
-        "205, 205); border-radius: 5px; padding: 7px 16px; }"
-        "QPushButton:hover { background: rgb(240, 240, 240); }"
-        "QPushButton:pressed { background: rgb(228, 228, 228); }");
+    const QString plainButton = Look::StyleSheet::plainButton();
     m_browseButton = new QPushButton(tr("Add Files…"), bar);
     m_browseButton->setObjectName(QStringLiteral("browseButton"));
     m_browseButton->setStyleSheet(plainButton);
@@ -310,25 +304,17 @@ void BRRenameViewController::refreshRenameButtonTitle()
 {
     // The words stay "files" for a single file too.
     const QString title = QStringLiteral("Rename %1 files").arg(m_list->rowCount());
-    setRenameButtonTitle(title, m_renameActive ? BRColorHelper::color(255, 255, 255, 1.0)
-                                               : BRColorHelper::color(255, 255, 255, 0.5));
+    setRenameButtonTitle(title, m_renameActive ? Look::Color::TextOnColor
+                                               : Look::Color::InactiveButtonText);
 }
 
-void BRRenameViewController::setRenameButtonTitle(const QString &title, const QColor &color)
+void BRRenameViewController::setRenameButtonTitle(const QString &title, Look::Color color)
 {
-    m_renameButton->setFont(RenameFont::helveticaNeue(18));
+    m_renameButton->setFont(Look::font(18));
     m_renameButton->setText(title);
     // The button stays clickable in both looks: a press without a rule does nothing.
-    const QString ground = m_renameActive ? QStringLiteral("rgb(31, 201, 126)")
-                                          : QStringLiteral("rgba(128, 128, 128, 0.3)");
-    m_renameButton->setStyleSheet(
-        QStringLiteral("QPushButton { color: rgba(%1, %2, %3, %4); background: %5; border: none; "
-                       "border-radius: 5px; padding: 8px 18px; }")
-            .arg(color.red())
-            .arg(color.green())
-            .arg(color.blue())
-            .arg(color.alphaF())
-            .arg(ground));
+    m_renameButton->setStyleSheet(Look::StyleSheet::filledButton(
+        m_renameActive ? Look::Color::Accent : Look::Color::InactiveButtonGround, color));
 }
 
 // ---------------------------------------------------------------------------------------

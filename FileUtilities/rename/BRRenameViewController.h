@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BRRenameViewDelegate.h"
+#include "LookColors.h"
 #include "RowAnchoredPopover.h"
 #include "WindowDelegate.h"
 
@@ -56,7 +57,7 @@ public:
 
     // The screen.
     void showDragAndDropView();
-    void setRenameButtonTitle(const QString &title, const QColor &color);
+    void setRenameButtonTitle(const QString &title, Look::Color color);
     void setViewsHiddenState(bool containerViewHidden, bool dragAndDropViewHidden,
                              bool renameViewHidden, bool completeStatusViewHidden);
     bool showQuitAlert(const QString &title, const QString &message);
