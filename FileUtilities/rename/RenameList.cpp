@@ -429,10 +429,10 @@ void RenameList::finishRenameRun(RenameRunResult &result)
             break;
         }
     }
-    // Once files have moved, the list has done its work.
-    if (!renamed.isEmpty()) {
+    // Once files have moved, the list has done its work; else the views show the rows left,
+    // without those found missing, and the outcomes of the rest.
+    if (!renamed.isEmpty())
         clearAll();
-        announce();
-    }
+    announce();
     Q_EMIT renameEnded(renamed, someFailed);
 }

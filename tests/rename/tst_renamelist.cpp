@@ -61,9 +61,11 @@ struct Listed
     QStringList troubles;
     QStringList renamed;
     bool emptied = false;
+    int resets = 0; // times the views were told to read the rows afresh
 
     Listed()
     {
+        QObject::connect(&list, &RenameList::rowsReset, [this] { ++resets; });
         QObject::connect(&list, &RenameList::namesAlreadyListed,
                          [this] { troubles.append(u"already listed"_s); });
         QObject::connect(&list, &RenameList::filesMissing,
@@ -254,10 +256,15 @@ private Q_SLOTS:
         create(dir, taken.toUtf8().constData());
         for (const QString &name : deleted.split(u' ', Qt::SkipEmptyParts))
             dir.removeFile(name);
+        const QStringList keysBefore = l.list.keys();
+        const int resetsBefore = l.resets;
         l.renameAndWait();
 
         QCOMPARE(l.troubles, troubles);
         QCOMPARE(l.list.keys().join(u' '), rows);
+        // Rows that left the list leave the screen too, whatever else the run did.
+        if (l.list.keys() != keysBefore)
+            QVERIFY(l.resets > resetsBefore);
         QCOMPARE(listing(dir), disk);
         const QString ended = !l.renamed.isEmpty() ? u"renamed"_s
                               : l.emptied          ? u"emptied"_s
