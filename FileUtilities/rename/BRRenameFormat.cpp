@@ -1,6 +1,7 @@
 #include "BRRenameFormat.h"
 
 #include "FileMover.h"
+#include "RenameLog.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -189,6 +190,8 @@ ExecutionReport BRRenameFormat::renameFiles(const QStringList &keys, RenameFileD
         }
         const auto found = restoreBookmark(path, bookmarks, &searches);
         if (!found) {
+            qCWarning(renameLog).noquote()
+                << "not renamed:" << path << "is gone and was not found near where it was";
             report.missingKeys.append(key);
             continue;
         }
@@ -216,14 +219,19 @@ void BRRenameFormat::renameFile(const std::optional<QUrl> &sourceURL, const QStr
     // A name that would point into another folder, or that the file system cannot hold,
     // is refused here rather than handed to the path API.
     if (!FileMover::isValidFileName(targetName, source.folder)) {
+        qCWarning(renameLog).noquote()
+            << "not renamed:" << sourcePath << "cannot be named" << targetName << "in its folder";
         record->outcome = RenameOutcome::Failed;
         return;
     }
     const QString targetPath = source.folder == QLatin1String("/")
                                    ? source.folder + targetName
                                    : source.folder + QLatin1Char('/') + targetName;
-    record->outcome =
-        FileMover::move(sourcePath, targetPath) ? RenameOutcome::Succeeded : RenameOutcome::Failed;
+    const FileMover::Result moved = FileMover::move(sourcePath, targetPath);
+    if (!moved)
+        qCWarning(renameLog).noquote()
+            << "not renamed:" << sourcePath << "to" << targetName << ":" << moved.errorText;
+    record->outcome = moved ? RenameOutcome::Succeeded : RenameOutcome::Failed;
 }
 
 std::optional<QUrl> BRRenameFormat::restoreBookmark(const QString &path,

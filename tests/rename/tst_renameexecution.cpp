@@ -4,10 +4,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QTest>
 
 #include <cerrno>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -75,6 +77,14 @@ struct Listing
         return QString::fromUtf8(contentOf(dir.filePath(relativePath)));
     }
 };
+
+QStringList g_logged;
+
+void collectLog(QtMsgType, const QMessageLogContext &context, const QString &message)
+{
+    if (qstrcmp(context.category, "quillmere.rename") == 0)
+        g_logged.append(message);
+}
 
 } // namespace
 
@@ -148,6 +158,32 @@ private Q_SLOTS:
         QCOMPARE(l.run().missingKeys, QStringList());
         QCOMPARE(l.states(), states);
         QCOMPARE(treeOf(l.dir.path()), sorted(tree));
+    }
+
+    // The user is told that some files could not be renamed; the log says which, and why,
+    // in the system's words, once its category is turned on.
+    void failuresAreLoggedWithTheirCause()
+    {
+        Listing l;
+        l.list(u"a.jpg"_s, u"x"_s);
+        l.list(u"b.jpg"_s, u"../y"_s);
+        l.list(u"c.jpg"_s, u"z"_s);
+        l.dir.createFile(u"x.jpg"_s, "present");
+        l.dir.removeFile(u"c.jpg"_s);
+        QLoggingCategory::setFilterRules(u"quillmere.rename=true"_s);
+        g_logged.clear();
+        const QtMessageHandler previous = qInstallMessageHandler(collectLog);
+        const ExecutionReport report = l.run();
+        qInstallMessageHandler(previous);
+        QLoggingCategory::setFilterRules(QString());
+
+        QCOMPARE(report.missingKeys, QStringList{u"c.jpg"_s});
+        QCOMPARE(g_logged.size(), 3);
+        QVERIFY2(g_logged[0].contains(l.dir.filePath(u"a.jpg"_s)) &&
+                     g_logged[0].endsWith(QString::fromLocal8Bit(std::strerror(EEXIST))),
+                 qPrintable(g_logged[0]));
+        QVERIFY2(g_logged[1].contains(u"cannot be named ../y.jpg"_s), qPrintable(g_logged[1]));
+        QVERIFY2(g_logged[2].contains(l.dir.filePath(u"c.jpg"_s)), qPrintable(g_logged[2]));
     }
 
     // Names the file system could not hold as one name in the folder are refused before
