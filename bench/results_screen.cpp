@@ -135,7 +135,7 @@ int main(int argc, char *argv[])
             duplicates += record.filePath.size();
             map.insert(key, std::move(record));
             ++pendingLive;
-            view.updateDuplicateFiles(map, false, key, duplicates, 0);
+            view.updateDuplicateFiles({map, key, false, duplicates, 0});
             QMetaObject::invokeMethod(
                 &view, [&] { --pendingLive; }, Qt::QueuedConnection);
             if (perSecond > 0)
@@ -145,7 +145,7 @@ int main(int argc, char *argv[])
         while (pendingLive.load() > 0)
             QThread::usleep(200);
         liveDone = true;
-        view.updateDuplicateFiles(map, true, QString(), duplicates, 0);
+        view.updateDuplicateFiles({map, QString(), true, duplicates, 0});
         all = map;
         sent = true;
     });

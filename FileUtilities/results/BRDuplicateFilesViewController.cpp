@@ -260,46 +260,40 @@ void BRDuplicateFilesViewController::startScanProcess(const std::optional<QUrl> 
     QPointer<BRDuplicateFilesViewController> self(this);
     m_duplicateFinder = ScanSession::start(
         folderUrl->toLocalFile().isEmpty() ? folderUrl->path() : folderUrl->toLocalFile(),
-        [self, generation](const GroupMap &groups, bool completeStatus, const QString &key,
-                           qint64 totalDuplicates, qint64 totalDupesSize) {
+        [self, generation](const ScanReport &report) {
             // On the scan thread: the store is the main thread's alone.
-            postReport(self, generation, groups, completeStatus, key, totalDuplicates,
-                       totalDupesSize);
+            postReport(self, generation, report);
         });
     m_progressTimer->start(m_timings.progressPollMs);
     pollScanProgress();
 }
 
-void BRDuplicateFilesViewController::updateDuplicateFiles(const GroupMap &dictOfDupeFiles,
-                                                          bool completeStatus, const QString &key,
-                                                          qint64 totalDuplicates,
-                                                          qint64 totalDupesSize)
+void BRDuplicateFilesViewController::updateDuplicateFiles(const ScanReport &report)
 {
     // The same hand-over as a running scan's reports, tied to the scan of this moment.
-    postReport(this, m_scanGeneration, dictOfDupeFiles, completeStatus, key, totalDuplicates,
-               totalDupesSize);
+    postReport(this, m_scanGeneration, report);
 }
 
 void BRDuplicateFilesViewController::postReport(QPointer<BRDuplicateFilesViewController> self,
-                                                quint64 generation, const GroupMap &groups,
-                                                bool completeStatus, const QString &key,
-                                                qint64 totalDuplicates, qint64 totalDupesSize)
+                                                quint64 generation, const ScanReport &report)
 {
     // Any thread. The application object outlives the screen, which may be gone by then.
     QMetaObject::invokeMethod(
         qApp,
-        [self, generation, groups, completeStatus, key, totalDuplicates, totalDupesSize] {
+        [self, generation, report] {
             if (self)
-                self->applyReport(generation, groups, completeStatus, key, totalDuplicates,
-                                  totalDupesSize);
+                self->applyReport(generation, report);
         },
         Qt::QueuedConnection);
 }
 
-void BRDuplicateFilesViewController::applyReport(quint64 generation, const GroupMap &groups,
-                                                 bool completeStatus, const QString &key,
-                                                 qint64 totalDuplicates, qint64 totalDupesSize)
+void BRDuplicateFilesViewController::applyReport(quint64 generation, const ScanReport &report)
 {
+    const GroupMap &groups = report.groups;
+    const bool completeStatus = report.completeStatus;
+    const QString &key = report.key;
+    const qint64 totalDuplicates = report.totalDuplicates;
+    const qint64 totalDupesSize = report.totalDupesSize;
     if (generation != m_scanGeneration)
         return; // sent by a scan that was stopped or cleared since
     m_totalDupesSize = totalDupesSize;

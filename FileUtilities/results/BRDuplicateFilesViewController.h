@@ -71,9 +71,7 @@ public:
     void setDuplicateMainViewDelegate(BRDuplicateFilesMainViewDelegate *delegate);
 
     // The scan's reports and the screens' requests.
-    void updateDuplicateFiles(const GroupMap &dictOfDupeFiles, bool completeStatus,
-                              const QString &key, qint64 totalDuplicates,
-                              qint64 totalDupesSize) override;
+    void updateDuplicateFiles(const ScanReport &report) override;
     void updateAfterDelete(int index, const QString &key) override;
     void openURLData(int index, const QString &key) override;
     void showPopOverView(int row) override;
@@ -162,10 +160,8 @@ protected:
 private:
     void buildScreen();
     static void postReport(QPointer<BRDuplicateFilesViewController> self, quint64 generation,
-                           const GroupMap &groups, bool completeStatus, const QString &key,
-                           qint64 totalDuplicates, qint64 totalDupesSize);
-    void applyReport(quint64 generation, const GroupMap &groups, bool completeStatus,
-                     const QString &key, qint64 totalDuplicates, qint64 totalDupesSize);
+                           const ScanReport &report);
+    void applyReport(quint64 generation, const ScanReport &report);
     // What every end of a scan tells the application and the progress view.
     void scanEnded(int groupsHeld);
     void reloadRowForKey(const QString &key);

@@ -12,10 +12,8 @@ std::shared_ptr<ScanSession> ScanSession::start(const QString &path, ReportHandl
     return session;
 }
 
-void ScanSession::updateDuplicateFiles(const GroupMap &dictOfDupeFiles, bool completeStatus,
-                                       const QString &key, qint64 totalDuplicates,
-                                       qint64 totalDupesSize)
+void ScanSession::receive(const ScanReport &report)
 {
     if (m_handler)
-        m_handler(dictOfDupeFiles, completeStatus, key, totalDuplicates, totalDupesSize);
+        m_handler(report);
 }

@@ -11,7 +11,7 @@ class RecordingFilesView final : public QWidget, public BRDuplicateFilesViewDele
 public:
     QStringList calls;
 
-    void updateDuplicateFiles(const GroupMap &, bool, const QString &, qint64, qint64) override
+    void updateDuplicateFiles(const ScanReport &) override
     {
         calls.append(QStringLiteral("updateDuplicateFiles"));
     }

@@ -74,12 +74,12 @@ struct Screen
     void report(const GroupRecord &record, qint64 count, bool complete = false)
     {
         groups.insert(record.oldKey, record);
-        view.updateDuplicateFiles(groups, complete, record.oldKey, count, 0);
+        view.updateDuplicateFiles({groups, record.oldKey, complete, count, 0});
         settle();
     }
     void finish(qint64 count)
     {
-        view.updateDuplicateFiles(groups, true, QString(), count, 0);
+        view.updateDuplicateFiles({groups, QString(), true, count, 0});
         settle();
     }
     // Four finished groups: two photos, a song, a text.
@@ -247,7 +247,7 @@ private Q_SLOTS:
         Screen screen;
         screen.startScan();
         screen.groups.insert(u"a"_s, group(u"a"_s, 1, QString(), {u"/a"_s, u"/b"_s}));
-        screen.view.updateDuplicateFiles(screen.groups, false, u"a"_s, 2, 1);
+        screen.view.updateDuplicateFiles({screen.groups, u"a"_s, false, 2, 1});
         screen.view.clearAll(); // before the report reached the main thread
         settle();
         QVERIFY(screen.view.allData().isEmpty());
@@ -336,7 +336,7 @@ private Q_SLOTS:
         screen.startScan();
         screen.groups.insert(u"song"_s,
                              group(QStringLiteral("song.mp3"), 10, u"audio/mpeg"_s, paths));
-        screen.view.updateDuplicateFiles(screen.groups, false, u"song"_s, 3, 20);
+        screen.view.updateDuplicateFiles({screen.groups, u"song"_s, false, 3, 20});
         settle();
         if (!scanRunning)
             screen.finish(3);

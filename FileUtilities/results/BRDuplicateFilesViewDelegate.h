@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GroupMap.h"
+#include "ScanReport.h"
 
 #include <QString>
 #include <QUrl>
@@ -9,21 +9,16 @@
 
 class QObject;
 
-// What the results screen offers to the scan, the table cells, the scan flow screens and
-// the detail popover. The finder calls only updateDuplicateFiles.
+// What the results screen offers to the table cells, the scan flow screens, the sort bar
+// and the detail popover.
 class BRDuplicateFilesViewDelegate
 {
 public:
     virtual ~BRDuplicateFilesViewDelegate() = default;
 
-    // Called on the scan thread after every change of a group, and once at the end with
-    // `completeStatus` true and an empty key. `dictOfDupeFiles` holds all groups so far;
-    // copying it is cheap, and the copy does not change as the scan goes on. The receiver
-    // must not touch its screen on this thread: it hands the work to the main thread and
-    // returns at once, so that reports never hold up the walk.
-    virtual void updateDuplicateFiles(const GroupMap &dictOfDupeFiles, bool completeStatus,
-                                      const QString &key, qint64 totalDuplicates,
-                                      qint64 totalDupesSize) = 0;
+    // A scan's report; any thread. The report is applied on the main thread, and only if
+    // the scan it belongs to is still the screen's.
+    virtual void updateDuplicateFiles(const ScanReport &report) = 0;
     virtual void updateAfterDelete(int index, const QString &key) = 0;
     virtual void openURLData(int index, const QString &key) = 0;
     virtual void showPopOverView(int row) = 0;
