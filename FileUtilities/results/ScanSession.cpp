@@ -1,14 +1,13 @@
 #include "ScanSession.h"
 
-#include <QThreadPool>
+#include "ScanThreads.h"
 
 ScanSession::ScanSession(ReportHandler handler) : m_handler(std::move(handler)), m_finder(this) {}
 
 std::shared_ptr<ScanSession> ScanSession::start(const QString &path, ReportHandler handler)
 {
     auto session = std::make_shared<ScanSession>(std::move(handler));
-    QThreadPool::globalInstance()->start(
-        [session, path] { session->finder().findDuplicatesInFolder(path); });
+    ScanThreads::start(session, path);
     return session;
 }
 

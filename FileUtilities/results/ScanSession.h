@@ -18,7 +18,7 @@ public:
 
     explicit ScanSession(ReportHandler handler);
 
-    // Starts walking `path` on the application's thread pool.
+    // Starts walking `path` on a thread of its own; main thread only.
     static std::shared_ptr<ScanSession> start(const QString &path, ReportHandler handler);
 
     BRDuplicateFinderClass &finder() { return m_finder; }
