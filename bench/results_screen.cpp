@@ -181,11 +181,10 @@ int main(int argc, char *argv[])
                     sum += map.find(key)->fileSize;
                 std::printf("  (%lld)\n", static_cast<long long>(sum % 7));
             }),
-            millisecondsOf([&] { GroupOrdering::sortedKeys(QStringLiteral("Name"), keys, map); }),
-            millisecondsOf([&] { GroupOrdering::sortedKeys(QStringLiteral("Size"), keys, map); }),
+            millisecondsOf([&] { GroupOrdering::sortedKeys(SortOrder::Name, keys, map); }),
+            millisecondsOf([&] { GroupOrdering::sortedKeys(SortOrder::Size, keys, map); }),
             millisecondsOf([&] { GroupOrdering::searchHits(QStringLiteral("p"), keys, map); }),
-            millisecondsOf(
-                [&] { SubTypeFilter().keysOfSubType(QStringLiteral("Photo"), keys, map); }),
+            millisecondsOf([&] { SubTypeFilter().keysOfSubType(SubType::Photo, keys, map); }),
             millisecondsOf([&] { view.reloadData(); }));
         QCollator collator(QLocale(QLocale::English, QLocale::UnitedStates));
         collator.setNumericMode(true);
@@ -205,17 +204,16 @@ int main(int argc, char *argv[])
                         });
                     }));
     }
-    for (const char *sort : {"Name", "Size", "Type", "All"}) {
-        const double ms =
-            millisecondsOf([&] { view.sortMainType(QString::fromLatin1(sort), false); });
-        std::printf("sort %-4s: %7.1f ms\n", sort, ms);
+    for (const SortOrder sort :
+         {SortOrder::Name, SortOrder::Size, SortOrder::Type, SortOrder::All}) {
+        const double ms = millisecondsOf([&] { view.sortMainType(sort, false); });
+        std::printf("sort %-4s: %7.1f ms\n", qPrintable(sortOrderTitle(sort)), ms);
     }
-    for (const char *subType : {"Photo", "Document"}) {
-        const double ms = millisecondsOf(
-            [&] { view.sortSubType(QString::fromLatin1(subType), QStringLiteral("Size")); });
-        std::printf("sub-type %s (by size): %.1f ms\n", subType, ms);
+    for (const SubType subType : {SubType::Photo, SubType::Document}) {
+        const double ms = millisecondsOf([&] { view.sortSubType(subType, SortOrder::Size); });
+        std::printf("sub-type %s (by size): %.1f ms\n", qPrintable(subTypeName(subType)), ms);
     }
-    view.sortMainType(QStringLiteral("Name"), false);
+    view.sortMainType(SortOrder::Name, false);
     auto *search = view.findChild<QLineEdit *>(QStringLiteral("searchField"));
     // The user moves to the search field after sorting.
     reading.restart();

@@ -41,9 +41,6 @@
 
 namespace {
 
-const QString sortAll = QStringLiteral("All");
-const QString sortBy = QStringLiteral("Sort By");
-
 bool fileExistsAtPath(const QString &path)
 {
     // The entry itself, not what a link points to: a dangling link still exists.
@@ -247,9 +244,9 @@ void BRDuplicateFilesViewController::startScanProcess(const std::optional<QUrl> 
     m_scanStatus = false;
     if (m_sortAndCancelTabViewDelegate)
         m_sortAndCancelTabViewDelegate->selectTabAtIndex(1);
-    m_selectedSortType = sortAll;
+    m_selectedSortType = SortOrder::All;
     if (m_sortViewDelegate)
-        m_sortViewDelegate->enableSortType(sortAll);
+        m_sortViewDelegate->enableSortType(SubType::All);
     m_selectedUrl = folderUrl;
     if (!folderUrl || folderUrl->path().isEmpty())
         return;
@@ -565,7 +562,7 @@ void BRDuplicateFilesViewController::removeAllFromDataSource()
 // ---------------------------------------------------------------------------------------
 // Sub-types, sort and search
 
-void BRDuplicateFilesViewController::sortSubTypes(const QString &subType)
+void BRDuplicateFilesViewController::sortSubTypes(SubType subType)
 {
     m_index = 0;
     m_subTypeActive = true;
@@ -598,36 +595,39 @@ void BRDuplicateFilesViewController::disableSubTypes()
     m_subTypeRecords = ListRecords();
 }
 
-void BRDuplicateFilesViewController::disableSubTypeAndSortData(const QString &sortType)
+void BRDuplicateFilesViewController::disableSubTypeAndSortData(SortOrder sortType)
 {
-    if (sortType == sortAll)
+    if (sortType == SortOrder::All)
         disableSubTypes();
     sortData(sortType, m_dictOfDupeFiles);
 }
 
-void BRDuplicateFilesViewController::sortMainType(const QString &sortType, bool subTypeStatus)
+void BRDuplicateFilesViewController::sortMainType(SortOrder sortType, bool subTypeStatus)
+{
+    sortMainType(std::optional<SortOrder>(sortType), subTypeStatus);
+}
+
+void BRDuplicateFilesViewController::sortMainType(std::optional<SortOrder> sortType,
+                                                  bool subTypeStatus)
 {
     m_subTypeActive = subTypeStatus;
     m_selectedSortType = sortType;
-    if (sortType == sortBy) {
+    if (!sortType) {
         reloadData();
         return;
     }
-    disableSubTypeAndSortData(sortType);
+    disableSubTypeAndSortData(*sortType);
 }
 
-void BRDuplicateFilesViewController::sortSubType(const QString &subType, const QString &mainType)
+void BRDuplicateFilesViewController::sortSubType(SubType subType, SortOrder mainType)
 {
     m_subTypeActive = true;
     m_selectedSubType = subType;
     m_selectedSortType = mainType;
-    static const QStringList known{sortAll, QStringLiteral("Photo"), QStringLiteral("Music"),
-                                   QStringLiteral("Document"), QStringLiteral("Folder")};
-    if (known.contains(subType))
-        sortData(mainType, m_dictOfDupeFiles);
+    sortData(mainType, m_dictOfDupeFiles);
 }
 
-void BRDuplicateFilesViewController::sortData(const QString &sortType, const GroupMap &groups)
+void BRDuplicateFilesViewController::sortData(SortOrder sortType, const GroupMap &groups)
 {
     m_index = 0;
     m_allData.clear();
@@ -636,18 +636,16 @@ void BRDuplicateFilesViewController::sortData(const QString &sortType, const Gro
     m_allDataKeysValid = false;
     m_allDataRecords = ListRecords();
     scrollToFirstRow();
-    if (sortType == sortAll || sortType == u"Name" || sortType == u"Size" || sortType == u"Type") {
-        m_selectedSortType = sortType;
-        if (groups.sharesRootWith(m_dictOfDupeFiles)) {
-            m_allData = GroupOrdering::sortedKeys(sortType, m_keysOfAll, records(), m_nameKeys,
-                                                  &m_allDataRecords.records);
-            m_allDataRecords.valid = true;
-            preparePrefixes(m_allDataRecords);
-        } else {
-            m_allData = GroupOrdering::sortedKeys(sortType, m_keysOfAll, groups);
-        }
-        m_index = m_allData.size();
+    m_selectedSortType = sortType;
+    if (groups.sharesRootWith(m_dictOfDupeFiles)) {
+        m_allData = GroupOrdering::sortedKeys(sortType, m_keysOfAll, records(), m_nameKeys,
+                                              &m_allDataRecords.records);
+        m_allDataRecords.valid = true;
+        preparePrefixes(m_allDataRecords);
+    } else {
+        m_allData = GroupOrdering::sortedKeys(sortType, m_keysOfAll, groups);
     }
+    m_index = m_allData.size();
     if (m_subTypeActive && m_selectedSubType)
         sortSubTypes(*m_selectedSubType);
     checkSearchActiveAndReloadTableView(m_dictOfDupeFiles);
@@ -828,7 +826,7 @@ void BRDuplicateFilesViewController::updateAfterDelete(int index, const QString 
         return;
     QPointer<BRDuplicateFilesViewController> self(this);
     QTimer::singleShot(0, this, [self, row] {
-        if (self->m_selectedSortType == u"Size") {
+        if (self->m_selectedSortType == SortOrder::Size) {
             // The group's size changed, and with it maybe its place.
             self->closePopOver();
             self->checkSortTypeAndSortData();

@@ -79,8 +79,10 @@ public:
     void closePopOver() override;
     void startScanProcess(const std::optional<QUrl> &folderUrl) override;
     void startNewScanProcess() override;
-    void sortMainType(const QString &sortType, bool subTypeStatus) override;
-    void sortSubType(const QString &subType, const QString &mainType) override;
+    void sortMainType(SortOrder sortType, bool subTypeStatus) override;
+    // No order (the menu's placeholder) changes no list.
+    void sortMainType(std::optional<SortOrder> sortType, bool subTypeStatus);
+    void sortSubType(SubType subType, SortOrder mainType) override;
     void cancelScanProcess() override;
     void updateScanStatus(bool status) override;
 
@@ -96,10 +98,10 @@ public:
     void showDuplicateStatusView();
 
     // Sub-types, sort and search.
-    void sortSubTypes(const QString &subType);
+    void sortSubTypes(SubType subType);
     void disableSubTypes();
-    void disableSubTypeAndSortData(const QString &sortType);
-    void sortData(const QString &sortType, const GroupMap &groups);
+    void disableSubTypeAndSortData(SortOrder sortType);
+    void sortData(SortOrder sortType, const GroupMap &groups);
     void checkSortTypeAndSortData();
     const QStringList &checkSearchActiveAndGetData() const;
     void filterData();
@@ -142,8 +144,8 @@ public:
     qint64 totaldupes() const { return m_totaldupes; }
     qint64 totalDupesSize() const { return m_totalDupesSize; }
     qsizetype index() const { return m_index; }
-    std::optional<QString> selectedSortType() const { return m_selectedSortType; }
-    std::optional<QString> selectedSubType() const { return m_selectedSubType; }
+    std::optional<SortOrder> selectedSortType() const { return m_selectedSortType; }
+    std::optional<SubType> selectedSubType() const { return m_selectedSubType; }
     std::optional<QUrl> selectedUrl() const { return m_selectedUrl; }
     // Requests to redraw the whole table so far; the redraw itself is joined up per frame.
     int reloadCount() const { return m_reloadCount; }
@@ -227,8 +229,8 @@ private:
     qint64 m_totaldupes = 0;
     qsizetype m_index = 0;
     qint64 m_totalDupesSize = 0;
-    std::optional<QString> m_selectedSortType;
-    std::optional<QString> m_selectedSubType;
+    std::optional<SortOrder> m_selectedSortType;
+    std::optional<SubType> m_selectedSubType;
     std::optional<QUrl> m_selectedUrl;
     QPointer<RowAnchoredPopover> m_popover;
     ApplicationStatus *m_appDelegate = nullptr;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "ScanReport.h"
+#include "SortOrder.h"
+#include "SubType.h"
 
 #include <QString>
 #include <QUrl>
@@ -26,8 +28,8 @@ public:
     virtual void closePopOver() = 0;
     virtual void startScanProcess(const std::optional<QUrl> &folderUrl) = 0;
     virtual void startNewScanProcess() = 0;
-    virtual void sortMainType(const QString &sortType, bool subTypeStatus) = 0;
-    virtual void sortSubType(const QString &subType, const QString &mainType) = 0;
+    virtual void sortMainType(SortOrder sortType, bool subTypeStatus) = 0;
+    virtual void sortSubType(SubType subType, SortOrder mainType) = 0;
     virtual void cancelScanProcess() = 0;
     virtual void updateScanStatus(bool status) = 0;
 };

@@ -56,7 +56,7 @@ QVariant DuplicateTableModel::data(const QModelIndex &index, int role) const
         if (kind == RowKind::NoSearchResult)
             return BRNoSearchResultCell::text();
         if (kind == RowKind::NoSubTypeFound)
-            return BRNoSubTypeFoundCell::text(m_store.selectedSubType().value_or(QString()));
+            return BRNoSubTypeFoundCell::text(m_store.selectedSubType());
         if (const GroupRecord *record = recordAt(index.row()))
             return record->fileName;
         return {};

@@ -8,15 +8,15 @@
 #include <algorithm>
 #include <vector>
 
-QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList &keysOfAll,
+QStringList GroupOrdering::sortedKeys(SortOrder order, const QStringList &keysOfAll,
                                       const GroupMap &groups)
 {
     NameSortKeys names;
     return sortedKeys(
-        sortType, keysOfAll, [&groups](const QString &key) { return groups.find(key); }, names);
+        order, keysOfAll, [&groups](const QString &key) { return groups.find(key); }, names);
 }
 
-QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList &keysOfAll,
+QStringList GroupOrdering::sortedKeys(SortOrder order, const QStringList &keysOfAll,
                                       const GroupLookup &find, NameSortKeys &names,
                                       std::vector<const GroupRecord *> *records)
 {
@@ -33,7 +33,10 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
             entries.push_back({&key, group});
     }
 
-    if (sortType == u"Name") {
+    switch (order) {
+    case SortOrder::All:
+        break;
+    case SortOrder::Name: {
         QStringList fileNames;
         fileNames.reserve(static_cast<qsizetype>(entries.size()));
         for (const Entry &entry : entries)
@@ -43,11 +46,14 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
             entries[i].rank = ranks[i];
         std::stable_sort(entries.begin(), entries.end(),
                          [](const Entry &a, const Entry &b) { return a.rank < b.rank; });
-    } else if (sortType == u"Size") {
+        break;
+    }
+    case SortOrder::Size:
         std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
             return a.group->totalSize > b.group->totalSize;
         });
-    } else if (sortType == u"Type") {
+        break;
+    case SortOrder::Type: {
         // A list holds few type texts: order those, then sort the groups by their rank.
         QHash<QString, int> ranks;
         for (const Entry &entry : entries)
@@ -60,6 +66,8 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
             entry.rank = ranks.value(entry.group->fileType);
         std::stable_sort(entries.begin(), entries.end(),
                          [](const Entry &a, const Entry &b) { return a.rank < b.rank; });
+        break;
+    }
     }
 
     QStringList keys;

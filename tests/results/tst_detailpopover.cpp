@@ -40,8 +40,8 @@ public:
     void closePopOver() override {}
     void startScanProcess(const std::optional<QUrl> &) override {}
     void startNewScanProcess() override {}
-    void sortMainType(const QString &, bool) override {}
-    void sortSubType(const QString &, const QString &) override {}
+    void sortMainType(SortOrder, bool) override {}
+    void sortSubType(SubType, SortOrder) override {}
     void cancelScanProcess() override {}
     void updateScanStatus(bool) override {}
 };

@@ -258,18 +258,18 @@ private Q_SLOTS:
     {
         Screen screen;
         screen.finishedScan();
-        screen.view.sortSubType(QStringLiteral("Photo"), QStringLiteral("Size"));
+        screen.view.sortSubType(SubType::Photo, SortOrder::Size);
         QCOMPARE(screen.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
         QCOMPARE(screen.label("totalFilesCountLabel"), QStringLiteral("4"));
-        screen.view.sortMainType(QStringLiteral("Name"), true); // the sub-type stays
+        screen.view.sortMainType(SortOrder::Name, true); // the sub-type stays
         QCOMPARE(screen.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
-        screen.view.sortMainType(QStringLiteral("Sort By"), true); // changes no list
+        screen.view.sortMainType(std::nullopt, true); // "Sort By" changes no list
         QCOMPARE(screen.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
         // All under a named sort shows everything but keeps the sub-type for later.
-        screen.view.sortMainType(QStringLiteral("Name"), false);
+        screen.view.sortMainType(SortOrder::Name, false);
         QCOMPARE(screen.namesOnScreen(),
                  (QStringList{u"B2.jpg"_s, u"b10.jpg"_s, u"notes.txt"_s, u"song.mp3"_s}));
-        QCOMPARE(screen.view.selectedSubType(), QStringLiteral("Photo"));
+        QCOMPARE(screen.view.selectedSubType(), SubType::Photo);
         screen.view.checkSortTypeAndSortData();
         QVERIFY(screen.view.subTypeActive());
         QCOMPARE(screen.namesOnScreen().size(), 2);
@@ -288,10 +288,10 @@ private Q_SLOTS:
         QVERIFY(!screen.view.searchActive());
         QCOMPARE(screen.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
 
-        screen.view.sortSubType(QStringLiteral("Folder"), QStringLiteral("All"));
+        screen.view.sortSubType(SubType::Folder, SortOrder::All);
         QCOMPARE(screen.view.numberOfRowsInTableView(), 1);
         QCOMPARE(screen.view.heightOfRow(0), 30.0);
-        screen.view.sortMainType(QStringLiteral("All"), false);
+        screen.view.sortMainType(SortOrder::All, false);
         QCOMPARE(screen.view.selectedSubType(), std::nullopt);
         QCOMPARE(screen.view.numberOfRowsInTableView(), 4);
         QCOMPARE(screen.view.heightOfRow(0), 105.0);
@@ -465,9 +465,9 @@ private Q_SLOTS:
 
     void placeholdersAndHeaderTexts()
     {
-        QCOMPARE(BRNoSubTypeFoundCell::text(u"Music"_s),
+        QCOMPARE(BRNoSubTypeFoundCell::text(SubType::Music),
                  QStringLiteral("No duplicate Music & Videos"));
-        QCOMPARE(BRNoSubTypeFoundCell::text(u"Photo"_s), QStringLiteral("No duplicate Photo"));
+        QCOMPARE(BRNoSubTypeFoundCell::text(SubType::Photo), QStringLiteral("No duplicate Photo"));
         Screen screen;
         screen.view.startScanProcess(QUrl::fromLocalFile(QStringLiteral("/nowhere/anna/Pictures")));
         QCOMPARE(screen.label("selecteFolderNameLabel"), QStringLiteral("Pictures"));
