@@ -1,6 +1,5 @@
 #include "GroupOrdering.h"
 
-#include "NamePrefix.h"
 #include "NameSortKeys.h"
 
 #include <QHash>
@@ -86,13 +85,31 @@ QStringList GroupOrdering::sortedKeys(SortOrder order, const QStringList &keysOf
 QStringList GroupOrdering::searchHits(const QString &query, const QStringList &keys,
                                       const GroupMap &groups)
 {
-    // The results screen matches through stored name starts; the rule is the same.
-    const QString lowered = query.toLower();
-    QStringList hits;
+    std::vector<const GroupRecord *> records;
+    std::vector<NamePrefix> prefixes;
+    records.reserve(static_cast<size_t>(keys.size()));
+    prefixes.reserve(static_cast<size_t>(keys.size()));
     for (const QString &key : keys) {
         const GroupRecord *group = groups.find(key);
-        if (group && NamePrefix::of(group->fileName).matches(lowered, *group))
-            hits.append(key);
+        records.push_back(group);
+        prefixes.push_back(group ? NamePrefix::of(group->fileName) : NamePrefix());
+    }
+    QStringList hits;
+    for (const size_t position : searchHits(query, records, prefixes))
+        hits.append(keys.at(static_cast<qsizetype>(position)));
+    return hits;
+}
+
+std::vector<size_t> GroupOrdering::searchHits(const QString &query,
+                                              const std::vector<const GroupRecord *> &records,
+                                              const std::vector<NamePrefix> &prefixes)
+{
+    const QString lowered = query.toLower();
+    std::vector<size_t> hits;
+    for (size_t position = 0; position < records.size(); ++position) {
+        const GroupRecord *group = records[position];
+        if (group && prefixes[position].matches(lowered, *group))
+            hits.push_back(position);
     }
     return hits;
 }

@@ -2,6 +2,7 @@
 
 #include "GroupLookup.h"
 #include "GroupMap.h"
+#include "NamePrefix.h"
 #include "SortOrder.h"
 
 #include <QString>
@@ -29,4 +30,10 @@ public:
     // the start of the name counts, and only the name, not the paths.
     static QStringList searchHits(const QString &query, const QStringList &keys,
                                   const GroupMap &groups);
+    // The same search over a list already looked up: `records` holds its groups (null for
+    // one that is gone) and `prefixes` the stored starts of their names, position by
+    // position. Gives the positions of the hits, in order.
+    static std::vector<size_t> searchHits(const QString &query,
+                                          const std::vector<const GroupRecord *> &records,
+                                          const std::vector<NamePrefix> &prefixes);
 };
