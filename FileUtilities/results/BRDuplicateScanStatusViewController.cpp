@@ -53,7 +53,12 @@ void BRDuplicateScanStatusViewController::setNewScanButtonTitle(const QString &t
     BRAttributedTitle::apply(m_newScanButton, title, Qt::white, 15);
 }
 
-// This screen stays faded out while it is out of sight; the results screen brings it
+void BRDuplicateScanStatusViewController::showFolderName(const QString &folderName)
+{
+    m_directoryLabel->setText(QStringLiteral("in \"") + folderName + u'"');
+}
+
+// This screen stays faded out while it is out of sight; the duplicate side brings it
 // back to full opacity when it shows it again.
 void BRDuplicateScanStatusViewController::startNewScanAction()
 {
