@@ -8,6 +8,7 @@
 
 #include "ApplicationStatus.h"
 #include "BRDuplicateFilesViewController.h"
+#include "DuplicateResults.h"
 #include "GroupOrdering.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedWorkspace.h"
@@ -101,6 +102,7 @@ int main(int argc, char *argv[])
     view.resize(1100, 760);
     view.show();
     view.startScanProcess(QUrl()); // the scanning state, with reports sent from here
+    DuplicateResults &results = view.results();
 
     // The main thread's longest busy stretch: a timer that should fire every millisecond
     // records how late each tick comes.
@@ -149,7 +151,7 @@ int main(int argc, char *argv[])
         all = map;
         sent = true;
     });
-    while (!sent || view.scanRunning())
+    while (!sent || results.walkRunning())
         QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
     producer.join();
     const double streamSeconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
@@ -164,14 +166,14 @@ int main(int argc, char *argv[])
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
 
     std::printf("groups on screen: %lld (of %d sent)\n",
-                static_cast<long long>(view.allData().size()), groups);
+                static_cast<long long>(results.allData().size()), groups);
     std::printf("streaming: %.2f s, longest main-thread frame %.1f ms while reports stream in, "
                 "%.1f ms with the final report\n",
                 streamSeconds, static_cast<double>(longestLiveFrame) / 1e6,
                 static_cast<double>(longestFrame) / 1e6);
     if (qEnvironmentVariableIsSet("QUILLMERE_BENCH_PARTS")) {
-        const QStringList &keys = view.keysOfAll();
-        const GroupMap &map = view.dictOfDupeFiles();
+        const QStringList &keys = results.keysOfAll();
+        const GroupMap &map = results.groups();
         std::printf(
             "  parts: finds %.1f ms, Name keys %.1f ms, Size keys %.1f ms, hits %.1f ms, "
             "photo keys %.1f ms, reload %.1f ms\n",
@@ -185,7 +187,7 @@ int main(int argc, char *argv[])
             millisecondsOf([&] { GroupOrdering::sortedKeys(SortOrder::Size, keys, map); }),
             millisecondsOf([&] { GroupOrdering::searchHits(QStringLiteral("p"), keys, map); }),
             millisecondsOf([&] { SubTypeFilter().keysOfSubType(SubType::Photo, keys, map); }),
-            millisecondsOf([&] { view.reloadData(); }));
+            millisecondsOf([&] { results.reloadData(); }));
         QCollator collator(QLocale(QLocale::English, QLocale::UnitedStates));
         collator.setNumericMode(true);
         collator.setCaseSensitivity(Qt::CaseInsensitive);
@@ -226,10 +228,10 @@ int main(int argc, char *argv[])
         longestKey = std::max(longestKey, ms);
         if (qEnvironmentVariableIsSet("QUILLMERE_BENCH_PARTS"))
             std::printf("  \"%s\" %.1f ms, %lld hits\n", text, ms,
-                        static_cast<long long>(view.filteredData().size()));
+                        static_cast<long long>(results.filteredData().size()));
     }
     std::printf("search keystroke: longest %.1f ms (hits for \"song\": %lld)\n", longestKey,
-                static_cast<long long>(view.filteredData().size()));
+                static_cast<long long>(results.filteredData().size()));
     const double clearMs = millisecondsOf([&] { search->clear(); });
     std::printf("search cleared: %.1f ms\n", clearMs);
     std::printf("peak resident memory: %.0f MB\n", static_cast<double>(residentKiB()) / 1024.0);

@@ -78,6 +78,12 @@ int ScanThreads::count()
     return static_cast<int>(walks().size());
 }
 
+void ScanThreads::waitForAll()
+{
+    for (const Walk &walk : walks())
+        walk.thread->wait();
+}
+
 void ScanThreads::stopAll()
 {
     const std::vector<Walk> running = std::exchange(walks(), {});

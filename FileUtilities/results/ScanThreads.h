@@ -22,6 +22,8 @@ public:
     static void start(const std::shared_ptr<ScanSession> &session, const QString &path);
     // The scan threads not joined yet.
     static int count();
+    // Waits until every walk has ended on its own, without cancelling it.
+    static void waitForAll();
     // Cancels every walk and waits for its thread.
     static void stopAll();
 };
