@@ -17,6 +17,7 @@
 #include "RowAnchoredPopover.h"
 #include "ThumbnailLoader.h"
 #include "ViewFader.h"
+#include "WorkerTask.h"
 #include "Workspace.h"
 
 #include <QAction>
@@ -28,7 +29,6 @@
 #include <QLineEdit>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <QtConcurrent/QtConcurrentRun>
 
 #include <sys/stat.h>
 
@@ -487,17 +487,20 @@ void BRDuplicateFilesViewController::createThumbNailForPath(const QString &path,
                                                             double height)
 {
     const qreal ratio = devicePixelRatioF();
-    auto future = QtConcurrent::run([path, width, height, ratio] {
-        return BRObjectClass().thumbnailForPath(path, width * ratio, height * ratio);
-    });
-    future.then(this, [this](const std::optional<QImage> &image) {
-        if (!image || image->isNull())
-            return;
-        QPixmap pixmap = QPixmap::fromImage(image->scaled(
-            QSize(36, 36) * devicePixelRatioF(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        pixmap.setDevicePixelRatio(devicePixelRatioF());
-        m_selectedFolderImageView->setPixmap(pixmap);
-    });
+    runOnWorker(
+        this,
+        [path, width, height, ratio] {
+            return BRObjectClass().thumbnailForPath(path, width * ratio, height * ratio);
+        },
+        [this](const std::optional<QImage> &image) {
+            if (!image || image->isNull())
+                return;
+            QPixmap pixmap =
+                QPixmap::fromImage(image->scaled(QSize(36, 36) * devicePixelRatioF(),
+                                                 Qt::KeepAspectRatio, Qt::SmoothTransformation));
+            pixmap.setDevicePixelRatio(devicePixelRatioF());
+            m_selectedFolderImageView->setPixmap(pixmap);
+        });
 }
 
 void BRDuplicateFilesViewController::showPopOverForView(QObject *sender)

@@ -2,9 +2,9 @@
 
 #include "GroupOrdering.h"
 #include "ScanSession.h"
+#include "WorkerTask.h"
 
 #include <QCoreApplication>
-#include <QtConcurrent/QtConcurrentRun>
 
 DuplicateResults::DuplicateResults(QObject *parent) : QObject(parent)
 {
@@ -176,19 +176,22 @@ void DuplicateResults::prepareNameKeys()
     // are made here, while the user reads the results, and kept.
     const GroupMap groups = m_dictOfDupeFiles;
     const quint64 generation = m_scanGeneration;
-    QtConcurrent::run([groups] {
-        QStringList names;
-        names.reserve(groups.size());
-        groups.forEach([&names](const QString &, const GroupRecord &record) {
-            names.append(record.fileName);
+    runOnWorker(
+        this,
+        [groups] {
+            QStringList names;
+            names.reserve(groups.size());
+            groups.forEach([&names](const QString &, const GroupRecord &record) {
+                names.append(record.fileName);
+            });
+            // Handed over by pointer: copying a hundred thousand keys would cost the main
+            // thread what making them on a worker saved.
+            return std::make_shared<NameSortKeys>(NameSortKeys::madeFor(names));
+        },
+        [this, generation](const std::shared_ptr<NameSortKeys> &keys) {
+            if (generation == m_scanGeneration && keys->size() > m_nameKeys.size())
+                m_nameKeys = std::move(*keys);
         });
-        // Handed over by pointer: copying a hundred thousand keys would cost the main
-        // thread what making them on a worker saved.
-        return std::make_shared<NameSortKeys>(NameSortKeys::madeFor(names));
-    }).then(this, [this, generation](const std::shared_ptr<NameSortKeys> &keys) {
-        if (generation == m_scanGeneration && keys->size() > m_nameKeys.size())
-            m_nameKeys = std::move(*keys);
-    });
 }
 
 void DuplicateResults::reloadRowForKey(const QString &key)
@@ -342,16 +345,19 @@ void DuplicateResults::preparePrefixes(ListRecords &target)
     const std::vector<const GroupRecord *> records = target.records;
     const quint64 version = target.version;
     ListRecords *where = &target;
-    QtConcurrent::run([snapshot, records] {
-        std::vector<NamePrefix> prefixes;
-        prefixes.reserve(records.size());
-        for (const GroupRecord *record : records)
-            prefixes.push_back(record ? NamePrefix::of(record->fileName) : NamePrefix());
-        return prefixes;
-    }).then(this, [where, version](const std::vector<NamePrefix> &prefixes) {
-        if (where->valid && where->version == version && where->prefixes.empty())
-            where->prefixes = prefixes;
-    });
+    runOnWorker(
+        this,
+        [snapshot, records] {
+            std::vector<NamePrefix> prefixes;
+            prefixes.reserve(records.size());
+            for (const GroupRecord *record : records)
+                prefixes.push_back(record ? NamePrefix::of(record->fileName) : NamePrefix());
+            return prefixes;
+        },
+        [where, version](const std::vector<NamePrefix> &prefixes) {
+            if (where->valid && where->version == version && where->prefixes.empty())
+                where->prefixes = prefixes;
+        });
 }
 
 void DuplicateResults::patchRecord(const QString &key, const GroupRecord *record)
