@@ -8,6 +8,7 @@
 
 #include "ApplicationStatus.h"
 #include "BRDuplicateFilesViewController.h"
+#include "DuplicateResults.h"
 #include "GroupOrdering.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedWorkspace.h"
@@ -101,6 +102,7 @@ int main(int argc, char *argv[])
     view.resize(1100, 760);
     view.show();
     view.startScanProcess(QUrl()); // the scanning state, with reports sent from here
+    DuplicateResults &results = view.results();
 
     // The main thread's longest busy stretch: a timer that should fire every millisecond
     // records how late each tick comes.
@@ -135,7 +137,7 @@ int main(int argc, char *argv[])
             duplicates += record.filePath.size();
             map.insert(key, std::move(record));
             ++pendingLive;
-            view.updateDuplicateFiles(map, false, key, duplicates, 0);
+            view.updateDuplicateFiles({map, key, false, duplicates, 0});
             QMetaObject::invokeMethod(
                 &view, [&] { --pendingLive; }, Qt::QueuedConnection);
             if (perSecond > 0)
@@ -145,11 +147,11 @@ int main(int argc, char *argv[])
         while (pendingLive.load() > 0)
             QThread::usleep(200);
         liveDone = true;
-        view.updateDuplicateFiles(map, true, QString(), duplicates, 0);
+        view.updateDuplicateFiles({map, QString(), true, duplicates, 0});
         all = map;
         sent = true;
     });
-    while (!sent || view.scanRunning())
+    while (!sent || results.walkRunning())
         QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
     producer.join();
     const double streamSeconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
@@ -164,14 +166,14 @@ int main(int argc, char *argv[])
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
 
     std::printf("groups on screen: %lld (of %d sent)\n",
-                static_cast<long long>(view.allData().size()), groups);
+                static_cast<long long>(results.allData().size()), groups);
     std::printf("streaming: %.2f s, longest main-thread frame %.1f ms while reports stream in, "
                 "%.1f ms with the final report\n",
                 streamSeconds, static_cast<double>(longestLiveFrame) / 1e6,
                 static_cast<double>(longestFrame) / 1e6);
     if (qEnvironmentVariableIsSet("QUILLMERE_BENCH_PARTS")) {
-        const QStringList &keys = view.keysOfAll();
-        const GroupMap &map = view.dictOfDupeFiles();
+        const QStringList &keys = results.keysOfAll();
+        const GroupMap &map = results.groups();
         std::printf(
             "  parts: finds %.1f ms, Name keys %.1f ms, Size keys %.1f ms, hits %.1f ms, "
             "photo keys %.1f ms, reload %.1f ms\n",
@@ -181,12 +183,11 @@ int main(int argc, char *argv[])
                     sum += map.find(key)->fileSize;
                 std::printf("  (%lld)\n", static_cast<long long>(sum % 7));
             }),
-            millisecondsOf([&] { GroupOrdering::sortedKeys(QStringLiteral("Name"), keys, map); }),
-            millisecondsOf([&] { GroupOrdering::sortedKeys(QStringLiteral("Size"), keys, map); }),
+            millisecondsOf([&] { GroupOrdering::sortedKeys(SortOrder::Name, keys, map); }),
+            millisecondsOf([&] { GroupOrdering::sortedKeys(SortOrder::Size, keys, map); }),
             millisecondsOf([&] { GroupOrdering::searchHits(QStringLiteral("p"), keys, map); }),
-            millisecondsOf(
-                [&] { SubTypeFilter().keysOfSubType(QStringLiteral("Photo"), keys, map); }),
-            millisecondsOf([&] { view.reloadData(); }));
+            millisecondsOf([&] { SubTypeFilter().keysOfSubType(SubType::Photo, keys, map); }),
+            millisecondsOf([&] { results.reloadData(); }));
         QCollator collator(QLocale(QLocale::English, QLocale::UnitedStates));
         collator.setNumericMode(true);
         collator.setCaseSensitivity(Qt::CaseInsensitive);
@@ -205,17 +206,16 @@ int main(int argc, char *argv[])
                         });
                     }));
     }
-    for (const char *sort : {"Name", "Size", "Type", "All"}) {
-        const double ms =
-            millisecondsOf([&] { view.sortMainType(QString::fromLatin1(sort), false); });
-        std::printf("sort %-4s: %7.1f ms\n", sort, ms);
+    for (const SortOrder sort :
+         {SortOrder::Name, SortOrder::Size, SortOrder::Type, SortOrder::All}) {
+        const double ms = millisecondsOf([&] { view.sortMainType(sort, false); });
+        std::printf("sort %-4s: %7.1f ms\n", qPrintable(sortOrderTitle(sort)), ms);
     }
-    for (const char *subType : {"Photo", "Document"}) {
-        const double ms = millisecondsOf(
-            [&] { view.sortSubType(QString::fromLatin1(subType), QStringLiteral("Size")); });
-        std::printf("sub-type %s (by size): %.1f ms\n", subType, ms);
+    for (const SubType subType : {SubType::Photo, SubType::Document}) {
+        const double ms = millisecondsOf([&] { view.sortSubType(subType, SortOrder::Size); });
+        std::printf("sub-type %s (by size): %.1f ms\n", qPrintable(subTypeName(subType)), ms);
     }
-    view.sortMainType(QStringLiteral("Name"), false);
+    view.sortMainType(SortOrder::Name, false);
     auto *search = view.findChild<QLineEdit *>(QStringLiteral("searchField"));
     // The user moves to the search field after sorting.
     reading.restart();
@@ -228,10 +228,10 @@ int main(int argc, char *argv[])
         longestKey = std::max(longestKey, ms);
         if (qEnvironmentVariableIsSet("QUILLMERE_BENCH_PARTS"))
             std::printf("  \"%s\" %.1f ms, %lld hits\n", text, ms,
-                        static_cast<long long>(view.filteredData().size()));
+                        static_cast<long long>(results.filteredData().size()));
     }
     std::printf("search keystroke: longest %.1f ms (hits for \"song\": %lld)\n", longestKey,
-                static_cast<long long>(view.filteredData().size()));
+                static_cast<long long>(results.filteredData().size()));
     const double clearMs = millisecondsOf([&] { search->clear(); });
     std::printf("search cleared: %.1f ms\n", clearMs);
     std::printf("peak resident memory: %.0f MB\n", static_cast<double>(residentKiB()) / 1024.0);

@@ -3,6 +3,7 @@
 #include "BRDuplicateScanStartViewController.h"
 #include "BRDuplicateScanStatusViewController.h"
 #include "BRDuplicateTabViewController.h"
+#include "ViewFader.h"
 
 #include <QVBoxLayout>
 
@@ -67,6 +68,20 @@ void BRDuplicateFilesMainViewController::updateDuplicateScanStatus(bool stopScan
 {
     if (m_duplicateFilesViewDelegate)
         m_duplicateFilesViewDelegate->updateScanStatus(stopScan);
+}
+
+void BRDuplicateFilesMainViewController::showScanStatusScreen(const QString &folderName)
+{
+    selectDuplicateTabViewAtIndex(BRDuplicateTabViewController::statusIndex);
+    // It stayed faded out since it was last left.
+    ViewFader::setAlpha(m_statusScreen, 1.0);
+    m_statusScreen->showFolderName(folderName);
+}
+
+void BRDuplicateFilesMainViewController::showScanStartScreen()
+{
+    selectDuplicateTabViewAtIndex(BRDuplicateTabViewController::startIndex);
+    ViewFader::fade(m_startScreen, 1.0, m_timings.fadeMs);
 }
 
 void BRDuplicateFilesMainViewController::setTimings(

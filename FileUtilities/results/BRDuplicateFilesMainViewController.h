@@ -43,6 +43,8 @@ public:
     void updateMainTabViewStatus(bool scanRuns) override;
     void selectDuplicateTabViewAtIndex(int index) override;
     void updateDuplicateScanStatus(bool stopScan) override;
+    void showScanStatusScreen(const QString &folderName) override;
+    void showScanStartScreen() override;
 
     // Shortens every fade and wait of the screens inside; tests use this.
     void setTimings(const BRDuplicateFilesViewController::Timings &timings);

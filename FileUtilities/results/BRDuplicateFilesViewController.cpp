@@ -12,37 +12,27 @@
 #include "BRDuplicateTableViewCell.h"
 #include "BRObjectClass.h"
 #include "ByteCountFormatter.h"
+#include "DuplicateResults.h"
 #include "DuplicateTableModel.h"
-#include "GroupOrdering.h"
 #include "RowAnchoredPopover.h"
-#include "ScanSession.h"
 #include "ThumbnailLoader.h"
 #include "ViewFader.h"
+#include "WorkerTask.h"
 #include "Workspace.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QFutureWatcher>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollBar>
-#include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <QtConcurrent/QtConcurrentRun>
-
-#include <memory>
 
 #include <sys/stat.h>
 
 namespace {
-
-const QString sortAll = QStringLiteral("All");
-const QString sortBy = QStringLiteral("Sort By");
 
 bool fileExistsAtPath(const QString &path)
 {
@@ -75,20 +65,18 @@ BRDuplicateFilesViewController::BRDuplicateFilesViewController(AlertPresenter &a
                                                                ApplicationStatus *appDelegate,
                                                                QWidget *parent)
     : QWidget(parent), m_alerts(alerts), m_workspace(workspace), m_appDelegateTarget(appDelegate),
-      m_thumbnails(new ThumbnailLoader(this)), m_progressTimer(new QTimer(this))
+      m_results(new DuplicateResults(this)), m_thumbnails(new ThumbnailLoader(this)),
+      m_progressTimer(new QTimer(this))
 {
     setObjectName(QStringLiteral("BRDuplicateFilesViewController"));
     buildScreen();
+    connectResults();
     connect(m_progressTimer, &QTimer::timeout, this,
             &BRDuplicateFilesViewController::pollScanProgress);
 }
 
 BRDuplicateFilesViewController::~BRDuplicateFilesViewController()
 {
-    // A walk that outlives its screen stops at its next entry; its reports find no one.
-    ++m_scanGeneration;
-    if (m_duplicateFinder)
-        m_duplicateFinder->finder().setCancelActive(true);
     if (auto *host = dynamic_cast<WindowDelegateHost *>(window());
         host && host->windowDelegate() == this)
         host->setWindowDelegate(nullptr);
@@ -147,13 +135,7 @@ void BRDuplicateFilesViewController::buildScreen()
     m_searchField->setStyleSheet(
         QStringLiteral("QLineEdit { border: 1px solid rgba(0,0,0,0.15); border-radius: 14px;"
                        " padding: 4px 8px; background: white; min-height: 20px; }"));
-    connect(m_searchField, &QLineEdit::textChanged, this, [this](const QString &text) {
-        if (text.isEmpty())
-            searchFieldDidEndSearching();
-        else if (!m_searchActive)
-            searchFieldDidStartSearching();
-        controlTextDidChange();
-    });
+    connect(m_searchField, &QLineEdit::textChanged, m_results, &DuplicateResults::search);
 
     auto *headerLayout = new QHBoxLayout(header);
     headerLayout->setContentsMargins(24, 14, 24, 14);
@@ -166,7 +148,8 @@ void BRDuplicateFilesViewController::buildScreen()
     headerLayout->addSpacing(20);
     headerLayout->addWidget(m_searchField);
 
-    m_model = new DuplicateTableModel(*this, this);
+    // The model lives and dies with the results it reads.
+    m_model = new DuplicateTableModel(*m_results, m_results);
     m_duplicateTableView = new BRDuplicateTableView(this);
     m_duplicateTableView->setObjectName(QStringLiteral("duplicateTableView"));
     m_duplicateTableView->setModel(m_model);
@@ -193,24 +176,28 @@ void BRDuplicateFilesViewController::buildScreen()
     layout->addWidget(header);
     layout->addWidget(m_duplicateTableView, 1);
     layout->addWidget(m_sortAndCancelTab);
+}
 
-    m_reloadTimer.setSingleShot(true);
-    m_reloadTimer.setInterval(0);
-    connect(&m_reloadTimer, &QTimer::timeout, this, [this] {
-        m_model->reload(m_reloadAppendsOnly);
-        m_reloadAppendsOnly = true;
-    });
+void BRDuplicateFilesViewController::connectResults()
+{
+    connect(m_results, &DuplicateResults::totalsChanged, this,
+            &BRDuplicateFilesViewController::showTotals);
+    connect(m_results, &DuplicateResults::reclaimableBytesChanged, this,
+            &BRDuplicateFilesViewController::setTotalSizeOfDuplicate);
+    connect(m_results, &DuplicateResults::aboutToSort, m_duplicateTableView,
+            &BRDuplicateTableView::scrollToTop);
+    connect(m_results, &DuplicateResults::scanEnded, this,
+            &BRDuplicateFilesViewController::scanEnded);
+    connect(m_results, &DuplicateResults::scanCompleted, this,
+            &BRDuplicateFilesViewController::scanCompleted);
+    connect(m_results, &DuplicateResults::scanFoundNothing, this,
+            &BRDuplicateFilesViewController::scanFoundNothing);
 }
 
 void BRDuplicateFilesViewController::setDuplicateMainViewDelegate(
     BRDuplicateFilesMainViewDelegate *delegate)
 {
     m_duplicateMainViewDelegate = delegate;
-}
-
-BRDuplicateFinderClass *BRDuplicateFilesViewController::duplicateFinder() const
-{
-    return m_duplicateFinder ? &m_duplicateFinder->finder() : nullptr;
 }
 
 BRDuplicateFilePreviewViewController *BRDuplicateFilesViewController::previewDelegate() const
@@ -232,8 +219,18 @@ void BRDuplicateFilesViewController::showEvent(QShowEvent *event)
         host->setWindowDelegate(this);
 }
 
+bool BRDuplicateFilesViewController::isScanRunning() const
+{
+    return !m_results->scanStatus();
+}
+
+qsizetype BRDuplicateFilesViewController::groupCount() const
+{
+    return m_results->groups().size();
+}
+
 // ---------------------------------------------------------------------------------------
-// Scans and their reports
+// Scans
 
 void BRDuplicateFilesViewController::startScanProcess(const std::optional<QUrl> &folderUrl)
 {
@@ -244,152 +241,24 @@ void BRDuplicateFilesViewController::startScanProcess(const std::optional<QUrl> 
     m_appDelegate = m_appDelegateTarget;
     if (m_appDelegate)
         m_appDelegate->duplicateScanStatus = true;
-    m_scanStatus = false;
+    m_results->prepareScan();
     if (m_sortAndCancelTabViewDelegate)
         m_sortAndCancelTabViewDelegate->selectTabAtIndex(1);
-    m_selectedSortType = sortAll;
     if (m_sortViewDelegate)
-        m_sortViewDelegate->enableSortType(sortAll);
+        m_sortViewDelegate->enableSortType(SubType::All);
     m_selectedUrl = folderUrl;
     if (!folderUrl || folderUrl->path().isEmpty())
         return;
     setBottomBarControls();
-    m_scanRunning = true;
-
-    const quint64 generation = ++m_scanGeneration;
-    QPointer<BRDuplicateFilesViewController> self(this);
-    m_duplicateFinder = ScanSession::start(
-        folderUrl->toLocalFile().isEmpty() ? folderUrl->path() : folderUrl->toLocalFile(),
-        [self, generation](const GroupMap &groups, bool completeStatus, const QString &key,
-                           qint64 totalDuplicates, qint64 totalDupesSize) {
-            // On the scan thread: the store is the main thread's alone.
-            postReport(self, generation, groups, completeStatus, key, totalDuplicates,
-                       totalDupesSize);
-        });
+    m_results->startScan(folderUrl->toLocalFile().isEmpty() ? folderUrl->path()
+                                                            : folderUrl->toLocalFile());
     m_progressTimer->start(m_timings.progressPollMs);
     pollScanProgress();
 }
 
-void BRDuplicateFilesViewController::updateDuplicateFiles(const GroupMap &dictOfDupeFiles,
-                                                          bool completeStatus, const QString &key,
-                                                          qint64 totalDuplicates,
-                                                          qint64 totalDupesSize)
+void BRDuplicateFilesViewController::updateDuplicateFiles(const ScanReport &report)
 {
-    // The same hand-over as a running scan's reports, tied to the scan of this moment.
-    postReport(this, m_scanGeneration, dictOfDupeFiles, completeStatus, key, totalDuplicates,
-               totalDupesSize);
-}
-
-void BRDuplicateFilesViewController::postReport(QPointer<BRDuplicateFilesViewController> self,
-                                                quint64 generation, const GroupMap &groups,
-                                                bool completeStatus, const QString &key,
-                                                qint64 totalDuplicates, qint64 totalDupesSize)
-{
-    // Any thread. The application object outlives the screen, which may be gone by then.
-    QMetaObject::invokeMethod(
-        qApp,
-        [self, generation, groups, completeStatus, key, totalDuplicates, totalDupesSize] {
-            if (self)
-                self->applyReport(generation, groups, completeStatus, key, totalDuplicates,
-                                  totalDupesSize);
-        },
-        Qt::QueuedConnection);
-}
-
-void BRDuplicateFilesViewController::applyReport(quint64 generation, const GroupMap &groups,
-                                                 bool completeStatus, const QString &key,
-                                                 qint64 totalDuplicates, qint64 totalDupesSize)
-{
-    if (generation != m_scanGeneration)
-        return; // sent by a scan that was stopped or cleared since
-    m_totalDupesSize = totalDupesSize;
-
-    if (completeStatus && !groups.isEmpty()) {
-        m_scanRunning = false;
-        if (m_duplicateMainViewDelegate)
-            m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
-        if (m_duplicateFinder)
-            m_duplicateFinder->finder().setCancelActive(true);
-        m_duplicateFinder.reset();
-        m_scanStatus = completeStatus;
-        scanEnded(static_cast<int>(m_dictOfDupeFiles.size()));
-        if (m_searchActive)
-            filterData();
-        if (m_selectedSortType)
-            disableSubTypeAndSortData(*m_selectedSortType);
-        if (m_sortAndCancelTabViewDelegate)
-            m_sortAndCancelTabViewDelegate->selectTabAtIndex(0);
-        prepareNameKeys();
-        showAlert(QStringLiteral("Duplicate files scan complete."),
-                  QString::number(totalDuplicates) + QStringLiteral(" duplicate files found."));
-        return;
-    }
-
-    if (groups.isEmpty()) {
-        m_scanRunning = false;
-        m_scanStatus = true;
-        if (m_duplicateMainViewDelegate)
-            m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
-        scanEnded(0);
-        showDuplicateStatusView();
-        return;
-    }
-
-    if (completeStatus)
-        return;
-    m_dictOfDupeFiles = groups;
-    m_allDataRecords.valid = false;
-    if (!m_allDataKeysValid) {
-        m_allDataKeys = QSet<QString>(m_allData.cbegin(), m_allData.cend());
-        m_allDataKeysValid = true;
-    }
-    if (m_allDataKeys.contains(key)) {
-        reloadRowForKey(key); // a further copy of a group already listed
-    } else {
-        const qsizetype at = qBound<qsizetype>(0, m_index, m_allData.size());
-        m_allData.insert(at, key);
-        m_allDataKeys.insert(key);
-        m_keysOfAll.insert(qBound<qsizetype>(0, m_index, m_keysOfAll.size()), key);
-        ++m_index;
-        // The list grows at every report, but is redrawn for each of the first ten
-        // duplicates and then once per ten, so a large scan never floods the screen.
-        if (totalDuplicates < 10) {
-            reloadData(at == m_allData.size() - 1);
-            updateFileCountAndSize(totalDuplicates);
-        } else if (totalDuplicates % 10 == 0) {
-            reloadData(at == m_allData.size() - 1);
-        }
-    }
-    if (!m_searchActive && totalDuplicates % 10 == 0)
-        updateFileCountAndSize(totalDuplicates);
-}
-
-GroupLookup BRDuplicateFilesViewController::records()
-{
-    if (!m_records.isBuiltFor(m_dictOfDupeFiles))
-        m_records.rebuild(m_dictOfDupeFiles);
-    return m_records.lookup();
-}
-
-void BRDuplicateFilesViewController::prepareNameKeys()
-{
-    // The first sort by name would spend most of its time making collation keys; they
-    // are made here, while the user reads the results, and kept.
-    const GroupMap groups = m_dictOfDupeFiles;
-    const quint64 generation = m_scanGeneration;
-    QtConcurrent::run([groups] {
-        QStringList names;
-        names.reserve(groups.size());
-        groups.forEach([&names](const QString &, const GroupRecord &record) {
-            names.append(record.fileName);
-        });
-        // Handed over by pointer: copying a hundred thousand keys would cost the main
-        // thread what making them on a worker saved.
-        return std::make_shared<NameSortKeys>(NameSortKeys::madeFor(names));
-    }).then(this, [this, generation](const std::shared_ptr<NameSortKeys> &keys) {
-        if (generation == m_scanGeneration && keys->size() > m_nameKeys.size())
-            m_nameKeys = std::move(*keys);
-    });
+    m_results->postReport(report);
 }
 
 void BRDuplicateFilesViewController::scanEnded(int groupsHeld)
@@ -403,48 +272,29 @@ void BRDuplicateFilesViewController::scanEnded(int groupsHeld)
         m_cancelViewDelegate->stopAnimateProgress();
 }
 
-void BRDuplicateFilesViewController::reloadRowForKey(const QString &key)
+void BRDuplicateFilesViewController::scanCompleted(qint64 duplicatesFound)
 {
-    if (m_searchActive || m_subTypeActive) {
-        const qsizetype row = rowOnScreen(key);
-        if (row >= 0)
-            m_model->rowsChanged(static_cast<int>(row), static_cast<int>(row));
-        return;
-    }
-    // During a scan the list is long and the row is near its end; a redraw of what is
-    // visible costs less than finding it.
-    m_model->rowsChanged(0, m_model->rowCount() - 1);
+    if (m_duplicateMainViewDelegate)
+        m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
+    if (m_sortAndCancelTabViewDelegate)
+        m_sortAndCancelTabViewDelegate->selectTabAtIndex(0);
+    showAlert(QStringLiteral("Duplicate files scan complete."),
+              QString::number(duplicatesFound) + QStringLiteral(" duplicate files found."));
+}
+
+void BRDuplicateFilesViewController::scanFoundNothing()
+{
+    if (m_duplicateMainViewDelegate)
+        m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
+    showDuplicateStatusView();
 }
 
 void BRDuplicateFilesViewController::pollScanProgress()
 {
-    if (!m_duplicateFinder || !m_cancelViewDelegate)
+    const std::optional<BRDuplicateFinderClass::Progress> progress = m_results->scanProgress();
+    if (!progress || !m_cancelViewDelegate)
         return;
-    const BRDuplicateFinderClass::Progress progress = m_duplicateFinder->finder().progress();
-    m_cancelViewDelegate->updateScanProgress(progress.entriesScanned, progress.currentFolder);
-}
-
-void BRDuplicateFilesViewController::updateFileCountAndSize(qint64 count)
-{
-    m_totalFilesCountLabel->setText(QString::number(count));
-    setTotalSizeOfDuplicate(m_totalDupesSize);
-}
-
-void BRDuplicateFilesViewController::insertElementToAllData(const QString &key)
-{
-    m_allData.insert(qBound<qsizetype>(0, m_index, m_allData.size()), key);
-    m_allDataKeys.insert(key);
-    m_allDataRecords.valid = false;
-    ++m_index;
-}
-
-void BRDuplicateFilesViewController::checkSearchActiveAndReloadTableView(const GroupMap &groups)
-{
-    if (m_searchActive)
-        filterData();
-    else
-        setTotalDuplicateFilesCountLabel(groups);
-    reloadData();
+    m_cancelViewDelegate->updateScanProgress(progress->entriesScanned, progress->currentFolder);
 }
 
 void BRDuplicateFilesViewController::showDuplicateStatusView()
@@ -456,20 +306,8 @@ void BRDuplicateFilesViewController::showDuplicateStatusView()
     ViewFader::fade(this, 0.0, m_timings.statusWaitMs, [self, folderName] {
         ViewFader::setAlpha(self, 1.0);
         if (self->m_duplicateMainViewDelegate)
-            self->m_duplicateMainViewDelegate->selectDuplicateTabViewAtIndex(2);
-        QWidget *statusScreen = self->siblingScreen(2);
-        if (!statusScreen)
-            return;
-        ViewFader::setAlpha(statusScreen, 1.0);
-        if (auto *label = statusScreen->findChild<QLabel *>(QStringLiteral("directoryLabel")))
-            label->setText(QStringLiteral("in \"") + folderName + u'"');
+            self->m_duplicateMainViewDelegate->showScanStatusScreen(folderName);
     });
-}
-
-QWidget *BRDuplicateFilesViewController::siblingScreen(int index) const
-{
-    auto *tabs = qobject_cast<QStackedWidget *>(parentWidget());
-    return tabs ? tabs->widget(index) : nullptr;
 }
 
 void BRDuplicateFilesViewController::cancelScanProcess()
@@ -482,7 +320,7 @@ void BRDuplicateFilesViewController::cancelScanProcess()
     if (answer == AlertPresenter::firstButton) {
         if (m_duplicateMainViewDelegate)
             m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
-        m_scanStatus = true;
+        m_results->markScanStopped();
         cancelScanAndStartNewScan();
     } else if (m_cancelViewDelegate) {
         m_cancelViewDelegate->startAnimateProgress();
@@ -514,298 +352,46 @@ void BRDuplicateFilesViewController::cancelScanAndStartNewScan()
     QPointer<BRDuplicateFilesViewController> self(this);
     ViewFader::fade(this, 0.0, m_timings.fadeMs, [self] {
         self->clearAll();
-        self->reloadData();
+        self->m_results->reloadData();
         {
             const QSignalBlocker quiet(self->m_searchField);
             self->m_searchField->clear();
         }
-        self->controlTextDidChange();
-        QWidget *startScreen = self->siblingScreen(0);
+        self->m_results->search(QString());
         if (self->m_duplicateMainViewDelegate)
-            self->m_duplicateMainViewDelegate->selectDuplicateTabViewAtIndex(0);
-        if (startScreen)
-            ViewFader::fade(startScreen, 1.0, self->m_timings.fadeMs);
+            self->m_duplicateMainViewDelegate->showScanStartScreen();
         ViewFader::setAlpha(self, 1.0);
     });
 }
 
 void BRDuplicateFilesViewController::clearAll()
 {
-    m_scanStatus = true;
-    ++m_scanGeneration;
-    if (m_duplicateFinder)
-        m_duplicateFinder->finder().setCancelActive(true);
-    scanEnded(0);
     closePopOver();
-    removeAllFromDataSource();
-    disableSubTypes();
-    m_index = 0;
-    m_totaldupes = 0;
-    m_totalDupesSize = 0;
+    m_results->clear();
     m_appDelegate = nullptr;
-    m_duplicateFinder.reset();
-    m_selectedSortType.reset();
     m_selectedUrl.reset();
-    m_nameKeys = NameSortKeys();
     m_selectedFolderImageView->clear();
     m_selecteFolderNameLabel->clear();
     m_selectedFolderPathLabel->clear();
-    m_totalFilesCountLabel->setText(QStringLiteral("0"));
-    setTotalSizeOfDuplicate(0);
 }
 
-void BRDuplicateFilesViewController::removeAllFromDataSource()
+void BRDuplicateFilesViewController::clear()
 {
-    m_allData.clear();
-    m_allDataKeys.clear();
-    m_allDataKeysValid = true;
-    m_allDataRecords = ListRecords();
-    m_filteredRecords = ListRecords();
-    m_keysOfAll.clear();
-    m_filteredData.clear();
-    m_dictOfDupeFiles = GroupMap();
-    m_filteredDictData.clear();
-    m_records.clear();
+    clearAll();
+    cancelScanAndStartNewScan();
 }
 
 // ---------------------------------------------------------------------------------------
-// Sub-types, sort and search
+// Sort and sub-types
 
-void BRDuplicateFilesViewController::sortSubTypes(const QString &subType)
+void BRDuplicateFilesViewController::sortMainType(SortOrder sortType, bool subTypeStatus)
 {
-    m_index = 0;
-    m_subTypeActive = true;
-    m_selectedSubType = subType;
-    ListRecords *all = listRecordsFor(m_allData);
-    m_keysOfSubType.clear();
-    m_subTypeRecords = ListRecords();
-    if (SubTypeFilter::targetFor(subType)) {
-        for (qsizetype position = 0; position < m_allData.size(); ++position) {
-            const GroupRecord *record = all->records[static_cast<size_t>(position)];
-            if (!record || !m_subTypes.belongs(subType, record->fileUTI))
-                continue;
-            m_keysOfSubType.insert(m_index++, m_allData.at(position));
-            m_subTypeRecords.records.push_back(record);
-        }
-    }
-    m_subTypeRecords.valid = true;
-    preparePrefixes(m_subTypeRecords);
-    m_index = m_keysOfSubType.size();
-    // The totals then count the subset: the list on screen is the subset, and its records
-    // are those of the store.
-    checkSearchActiveAndReloadTableView(m_dictOfDupeFiles);
+    m_results->sortMainType(sortType, subTypeStatus);
 }
 
-void BRDuplicateFilesViewController::disableSubTypes()
+void BRDuplicateFilesViewController::sortSubType(SubType subType, SortOrder mainType)
 {
-    m_selectedSubType.reset();
-    m_subTypeActive = false;
-    m_keysOfSubType.clear();
-    m_subTypeRecords = ListRecords();
-}
-
-void BRDuplicateFilesViewController::disableSubTypeAndSortData(const QString &sortType)
-{
-    if (sortType == sortAll)
-        disableSubTypes();
-    sortData(sortType, m_dictOfDupeFiles);
-}
-
-void BRDuplicateFilesViewController::sortMainType(const QString &sortType, bool subTypeStatus)
-{
-    m_subTypeActive = subTypeStatus;
-    m_selectedSortType = sortType;
-    if (sortType == sortBy) {
-        reloadData();
-        return;
-    }
-    disableSubTypeAndSortData(sortType);
-}
-
-void BRDuplicateFilesViewController::sortSubType(const QString &subType, const QString &mainType)
-{
-    m_subTypeActive = true;
-    m_selectedSubType = subType;
-    m_selectedSortType = mainType;
-    static const QStringList known{sortAll, QStringLiteral("Photo"), QStringLiteral("Music"),
-                                   QStringLiteral("Document"), QStringLiteral("Folder")};
-    if (known.contains(subType))
-        sortData(mainType, m_dictOfDupeFiles);
-}
-
-void BRDuplicateFilesViewController::sortData(const QString &sortType, const GroupMap &groups)
-{
-    m_index = 0;
-    m_allData.clear();
-    // Membership is asked only while reports stream in; it is rebuilt if that happens.
-    m_allDataKeys.clear();
-    m_allDataKeysValid = false;
-    m_allDataRecords = ListRecords();
-    scrollToFirstRow();
-    if (sortType == sortAll || sortType == u"Name" || sortType == u"Size" || sortType == u"Type") {
-        m_selectedSortType = sortType;
-        if (groups.sharesRootWith(m_dictOfDupeFiles)) {
-            m_allData = GroupOrdering::sortedKeys(sortType, m_keysOfAll, records(), m_nameKeys,
-                                                  &m_allDataRecords.records);
-            m_allDataRecords.valid = true;
-            preparePrefixes(m_allDataRecords);
-        } else {
-            m_allData = GroupOrdering::sortedKeys(sortType, m_keysOfAll, groups);
-        }
-        m_index = m_allData.size();
-    }
-    if (m_subTypeActive && m_selectedSubType)
-        sortSubTypes(*m_selectedSubType);
-    checkSearchActiveAndReloadTableView(m_dictOfDupeFiles);
-}
-
-BRDuplicateFilesViewController::ListRecords *
-BRDuplicateFilesViewController::listRecordsFor(const QStringList &list)
-{
-    ListRecords *target = &list == &m_allData         ? &m_allDataRecords
-                          : &list == &m_keysOfSubType ? &m_subTypeRecords
-                          : &list == &m_filteredData  ? &m_filteredRecords
-                                                      : nullptr;
-    if (target && !target->valid)
-        fillListRecords(list, *target);
-    return target;
-}
-
-void BRDuplicateFilesViewController::fillListRecords(const QStringList &list, ListRecords &target)
-{
-    const GroupLookup find = records();
-    target = ListRecords();
-    target.records.reserve(static_cast<size_t>(list.size()));
-    for (const QString &key : list)
-        target.records.push_back(find(key));
-    target.valid = true;
-}
-
-void BRDuplicateFilesViewController::preparePrefixes(ListRecords &target)
-{
-    target.version = ++m_listVersions;
-    // The snapshot keeps every record alive while the worker reads it.
-    const GroupMap snapshot = m_dictOfDupeFiles;
-    const std::vector<const GroupRecord *> records = target.records;
-    const quint64 version = target.version;
-    ListRecords *where = &target;
-    QtConcurrent::run([snapshot, records] {
-        std::vector<NamePrefix> prefixes;
-        prefixes.reserve(records.size());
-        for (const GroupRecord *record : records)
-            prefixes.push_back(record ? NamePrefix::of(record->fileName) : NamePrefix());
-        return prefixes;
-    }).then(this, [where, version](const std::vector<NamePrefix> &prefixes) {
-        if (where->valid && where->version == version && where->prefixes.empty())
-            where->prefixes = prefixes;
-    });
-}
-
-void BRDuplicateFilesViewController::patchRecord(const QString &key, const GroupRecord *record)
-{
-    for (auto [list, target] :
-         {std::pair{&m_allData, &m_allDataRecords}, std::pair{&m_keysOfSubType, &m_subTypeRecords},
-          std::pair{&m_filteredData, &m_filteredRecords}}) {
-        if (!target->valid)
-            continue;
-        const qsizetype position = list->indexOf(key);
-        if (position >= 0)
-            target->records[static_cast<size_t>(position)] = record;
-    }
-}
-
-void BRDuplicateFilesViewController::checkSortTypeAndSortData()
-{
-    if (m_selectedSubType)
-        sortSubTypes(*m_selectedSubType);
-    else if (m_selectedSortType)
-        disableSubTypeAndSortData(*m_selectedSortType);
-}
-
-const QStringList &BRDuplicateFilesViewController::checkSearchActiveAndGetData() const
-{
-    if (m_searchActive)
-        return m_filteredData;
-    if (m_subTypeActive)
-        return m_keysOfSubType;
-    return m_allData;
-}
-
-void BRDuplicateFilesViewController::filterData()
-{
-    m_filteredData.clear();
-    m_filteredRecords = ListRecords();
-    m_filteredDictData.clear();
-    applyFilterWithSearchQuery(m_searchField->text());
-}
-
-void BRDuplicateFilesViewController::applyFilterWithSearchQuery(const QString &query)
-{
-    m_index = 0;
-    // The first keystroke in a sub-type searches it; the kept sub-type name brings it back
-    // when the search is emptied.
-    const QStringList source = m_subTypeActive ? m_keysOfSubType : m_allData;
-    ListRecords &sourceRecords = *listRecordsFor(m_subTypeActive ? m_keysOfSubType : m_allData);
-    m_subTypeActive = false;
-    if (sourceRecords.prefixes.size() != sourceRecords.records.size()) {
-        sourceRecords.prefixes.clear();
-        sourceRecords.prefixes.reserve(sourceRecords.records.size());
-        for (const GroupRecord *record : sourceRecords.records)
-            sourceRecords.prefixes.push_back(record ? NamePrefix::of(record->fileName)
-                                                    : NamePrefix());
-    }
-    if (!m_filteredRecords.valid)
-        fillListRecords(m_filteredData, m_filteredRecords);
-    m_filteredRecords.prefixes.clear();
-    const QString lowered = query.toLower();
-    for (qsizetype position = 0; position < source.size(); ++position) {
-        const GroupRecord *record = sourceRecords.records[static_cast<size_t>(position)];
-        if (!record ||
-            !sourceRecords.prefixes[static_cast<size_t>(position)].matches(lowered, *record))
-            continue;
-        const QString &key = source.at(position);
-        m_filteredRecords.records.insert(
-            m_filteredRecords.records.begin() +
-                std::min<qsizetype>(m_index,
-                                    static_cast<qsizetype>(m_filteredRecords.records.size())),
-            record);
-        m_filteredData.insert(m_index, key);
-        m_filteredDictData.insert(key, *record);
-        ++m_index;
-    }
-    setTotalDuplicateFilesCountLabel(m_filteredDictData);
-}
-
-void BRDuplicateFilesViewController::searchFieldDidStartSearching()
-{
-    m_searchActive = true;
-}
-
-void BRDuplicateFilesViewController::searchFieldDidEndSearching()
-{
-    m_searchActive = false;
-}
-
-void BRDuplicateFilesViewController::controlTextDidChange()
-{
-    const QString text = m_searchField->text();
-    if (text.isEmpty()) {
-        m_searchActive = false;
-        checkSortTypeAndSortData();
-        reloadData(); // the placeholder of an empty search must go even with nothing sorted
-        return;
-    }
-    m_filteredData.clear();
-    m_filteredRecords = ListRecords();
-    m_filteredDictData.clear();
-    m_searchActive = true;
-    applyFilterWithSearchQuery(text);
-    reloadData();
-}
-
-void BRDuplicateFilesViewController::scrollToFirstRow()
-{
-    m_duplicateTableView->scrollToTop();
+    m_results->sortSubType(subType, mainType);
 }
 
 // ---------------------------------------------------------------------------------------
@@ -813,49 +399,31 @@ void BRDuplicateFilesViewController::scrollToFirstRow()
 
 void BRDuplicateFilesViewController::updateAfterDelete(int index, const QString &key)
 {
-    const GroupRecord *record = m_dictOfDupeFiles.find(key);
-    if (!record)
+    const GroupRecord *record = m_results->groups().find(key);
+    if (!record || index < 0 || index >= record->filePath.size())
         return;
-    const qint64 fileSize = record->fileSize;
-    const QStringList filePath = record->filePath;
-    const qint64 totalSize = record->totalSize;
-    if (filePath.isEmpty() || index < 0 || index >= filePath.size())
+    const QString path = record->filePath.at(index);
+    if (!removeFileAtPath(path, key))
         return;
-    const QString path = filePath.at(index);
-    if (!removeFileAtPath(path, index, key))
-        return;
-
-    QStringList remaining = filePath;
-    remaining.removeAll(path);
-    updateDictionaryDataForKey(key, remaining, totalSize - fileSize, path);
-
-    const qsizetype row = rowOnScreen(key);
+    const qsizetype row = m_results->removeCopy(key, path);
     if (row < 0)
         return;
     QPointer<BRDuplicateFilesViewController> self(this);
     QTimer::singleShot(0, this, [self, row] {
-        if (self->m_selectedSortType == u"Size") {
+        if (self->m_results->selectedSortType() == SortOrder::Size) {
             // The group's size changed, and with it maybe its place.
             self->closePopOver();
-            self->checkSortTypeAndSortData();
+            self->m_results->checkSortTypeAndSortData();
         } else {
-            self->m_model->rowsChanged(static_cast<int>(row), static_cast<int>(row));
+            self->m_results->announceRowChange(static_cast<int>(row));
         }
     });
     if (m_previewDelegate)
         m_previewDelegate->removeDataAtIndex(index);
-    if (m_scanStatus)
-        setTotalDuplicateFilesCountLabel(m_dictOfDupeFiles);
-    else
-        setTotalSizeOfDuplicate(m_totalDupesSize); // the count waits for the scan's next report
+    m_results->recountAfterRemoval();
 }
 
-qsizetype BRDuplicateFilesViewController::rowOnScreen(const QString &key) const
-{
-    return checkSearchActiveAndGetData().indexOf(key);
-}
-
-bool BRDuplicateFilesViewController::removeFileAtPath(const QString &path, int, const QString &key)
+bool BRDuplicateFilesViewController::removeFileAtPath(const QString &path, const QString &key)
 {
     if (fileExistsAtPath(path)) {
         const TrashResult result = m_workspace.moveToTrash(path);
@@ -866,78 +434,20 @@ bool BRDuplicateFilesViewController::removeFileAtPath(const QString &path, int, 
     }
 
     // The copy went behind our back: it leaves the group as if it had been removed here.
-    const GroupRecord *record = m_dictOfDupeFiles.find(key);
+    const GroupRecord *record = m_results->groups().find(key);
     if (!record)
         return false;
-    const QStringList filePath = record->filePath;
-    const qint64 totalSize = record->totalSize;
-    const QString fileName = record->fileName;
-    const qint64 fileSize = record->fileSize;
-    showAlert(QStringLiteral("File does not exist"), fileName + QStringLiteral(" does not exist"));
-    QStringList remaining = filePath;
-    remaining.removeAll(path);
-    if (remaining.isEmpty()) {
-        removeValuesForKeyFromDataSource(key);
-        if (m_dictOfDupeFiles.isEmpty())
-            showDuplicateStatusView();
-    } else {
-        updateDictionaryDataForKey(key, remaining, totalSize - fileSize, path);
-    }
-    checkSortTypeAndSortData();
+    showAlert(QStringLiteral("File does not exist"),
+              record->fileName + QStringLiteral(" does not exist"));
+    m_results->dropVanishedCopy(key, path);
+    if (m_results->groups().isEmpty())
+        showDuplicateStatusView();
     return false;
-}
-
-void BRDuplicateFilesViewController::updateDictionaryDataForKey(const QString &key,
-                                                                const QStringList &filePaths,
-                                                                qint64 totalSize, const QString &)
-{
-    const GroupRecord *found = m_dictOfDupeFiles.find(key);
-    if (!found)
-        return;
-    GroupRecord record = *found;
-    record.filePath = filePaths;
-    record.totalSize = totalSize;
-    const qint64 fileSize = record.fileSize;
-    const QString fileType = record.fileType;
-    const QString fileName = record.fileName;
-    const QString oldKey = record.oldKey;
-    const bool indexed = m_records.isBuiltFor(m_dictOfDupeFiles);
-    m_dictOfDupeFiles.insert(key, std::move(record));
-    if (indexed)
-        m_records.replace(key, m_dictOfDupeFiles);
-    patchRecord(key, m_dictOfDupeFiles.find(key));
-    m_totalDupesSize -= fileSize;
-    // A running scan goes on from what the user left: a later copy joins the smaller group.
-    if (m_duplicateFinder)
-        m_duplicateFinder->finder().applyDeletion(m_totalDupesSize, m_dictOfDupeFiles, fileSize,
-                                                  fileType, fileName, filePaths, oldKey);
-}
-
-void BRDuplicateFilesViewController::removeValuesForKeyFromDataSource(const QString &key)
-{
-    if (m_searchActive)
-        m_filteredDictData.remove(key);
-    if (m_duplicateFinder)
-        m_duplicateFinder->finder().removeGroup(key);
-    const bool indexed = m_records.isBuiltFor(m_dictOfDupeFiles);
-    patchRecord(key, nullptr);
-    m_dictOfDupeFiles.remove(key);
-    if (indexed)
-        m_records.remove(key, m_dictOfDupeFiles);
-    m_keysOfAll.removeAll(key);
-    if (const qsizetype position = m_keysOfSubType.indexOf(key); position >= 0) {
-        m_keysOfSubType.removeAt(position);
-        if (m_subTypeRecords.valid) {
-            m_subTypeRecords.records.erase(m_subTypeRecords.records.begin() + position);
-            if (m_subTypeRecords.prefixes.size() > static_cast<size_t>(position))
-                m_subTypeRecords.prefixes.erase(m_subTypeRecords.prefixes.begin() + position);
-        }
-    }
 }
 
 void BRDuplicateFilesViewController::openURLData(int index, const QString &key)
 {
-    const GroupRecord *record = m_dictOfDupeFiles.find(key);
+    const GroupRecord *record = m_results->groups().find(key);
     if (!record || record->filePath.isEmpty() || index < 0 || index >= record->filePath.size())
         return;
     const QString path = record->filePath.at(index);
@@ -950,63 +460,10 @@ void BRDuplicateFilesViewController::openURLData(int index, const QString &key)
 // ---------------------------------------------------------------------------------------
 // Presentation
 
-int BRDuplicateFilesViewController::numberOfRowsInTableView() const
+void BRDuplicateFilesViewController::showTotals(qint64 duplicateCount, qint64 reclaimableBytes)
 {
-    if (m_searchActive && m_filteredData.isEmpty())
-        return 1;
-    if (m_subTypeActive && m_keysOfSubType.isEmpty())
-        return 1;
-    return static_cast<int>(checkSearchActiveAndGetData().size());
-}
-
-double BRDuplicateFilesViewController::heightOfRow(int) const
-{
-    const bool placeholder = (m_searchActive && m_filteredData.isEmpty()) ||
-                             (m_subTypeActive && m_keysOfSubType.isEmpty());
-    return placeholder ? BRDuplicateTableViewCell::placeholderRowHeight
-                       : BRDuplicateTableViewCell::groupRowHeight;
-}
-
-template <typename Groups> void BRDuplicateFilesViewController::countTotals(const Groups &groups)
-{
-    m_totaldupes = 0;
-    m_totalDupesSize = 0;
-    const auto count = [this](const GroupRecord *record) {
-        if (!record)
-            return;
-        m_totaldupes += record->filePath.size();
-        // Deleting all but one copy of each group frees this much.
-        m_totalDupesSize += record->totalSize - record->fileSize;
-    };
-    const QStringList &onScreen = checkSearchActiveAndGetData();
-    if constexpr (std::is_same_v<Groups, GroupMap>) {
-        if (groups.sharesRootWith(m_dictOfDupeFiles)) {
-            // The store's own groups: the list's records, in one pass without lookups.
-            for (const GroupRecord *record : listRecordsFor(onScreen)->records)
-                count(record);
-        } else {
-            for (const QString &key : onScreen)
-                count(groups.find(key));
-        }
-    } else {
-        for (const QString &key : onScreen) {
-            const auto found = groups.constFind(key);
-            count(found == groups.cend() ? nullptr : &found.value());
-        }
-    }
-    m_totalDupesSizeLabel->setText(ByteCountFormatter::binary(m_totalDupesSize));
-    m_totalFilesCountLabel->setText(QString::number(m_totaldupes));
-}
-
-void BRDuplicateFilesViewController::setTotalDuplicateFilesCountLabel(const GroupMap &groups)
-{
-    countTotals(groups);
-}
-
-void BRDuplicateFilesViewController::setTotalDuplicateFilesCountLabel(
-    const QHash<QString, GroupRecord> &groups)
-{
-    countTotals(groups);
+    m_totalFilesCountLabel->setText(QString::number(duplicateCount));
+    setTotalSizeOfDuplicate(reclaimableBytes);
 }
 
 void BRDuplicateFilesViewController::setTotalSizeOfDuplicate(qint64 bytes)
@@ -1023,34 +480,27 @@ void BRDuplicateFilesViewController::setBottomBarControls()
     m_selecteFolderNameLabel->setText(QFileInfo(path).fileName());
     // "/home/anna/Pictures" reads "home / anna / Pictures".
     m_selectedFolderPathLabel->setText(path.mid(1).replace(u'/', QStringLiteral(" / ")));
-    m_totalFilesCountLabel->setText(QString::number(m_totaldupes));
-    setTotalSizeOfDuplicate(m_totalDupesSize);
+    showTotals(m_results->totaldupes(), m_results->totalDupesSize());
 }
 
 void BRDuplicateFilesViewController::createThumbNailForPath(const QString &path, double width,
                                                             double height)
 {
     const qreal ratio = devicePixelRatioF();
-    auto future = QtConcurrent::run([path, width, height, ratio] {
-        return BRObjectClass().thumbnailForPath(path, width * ratio, height * ratio);
-    });
-    future.then(this, [this](const std::optional<QImage> &image) {
-        if (!image || image->isNull())
-            return;
-        QPixmap pixmap = QPixmap::fromImage(image->scaled(
-            QSize(36, 36) * devicePixelRatioF(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        pixmap.setDevicePixelRatio(devicePixelRatioF());
-        m_selectedFolderImageView->setPixmap(pixmap);
-    });
-}
-
-void BRDuplicateFilesViewController::reloadData(bool appendedOnly)
-{
-    ++m_reloadCount;
-    m_reloadAppendsOnly = m_reloadAppendsOnly && appendedOnly;
-    // Many reports can arrive between two frames; one reload serves them all.
-    if (!m_reloadTimer.isActive())
-        m_reloadTimer.start();
+    runOnWorker(
+        this,
+        [path, width, height, ratio] {
+            return BRObjectClass().thumbnailForPath(path, width * ratio, height * ratio);
+        },
+        [this](const std::optional<QImage> &image) {
+            if (!image || image->isNull())
+                return;
+            QPixmap pixmap =
+                QPixmap::fromImage(image->scaled(QSize(36, 36) * devicePixelRatioF(),
+                                                 Qt::KeepAspectRatio, Qt::SmoothTransformation));
+            pixmap.setDevicePixelRatio(devicePixelRatioF());
+            m_selectedFolderImageView->setPixmap(pixmap);
+        });
 }
 
 void BRDuplicateFilesViewController::showPopOverForView(QObject *sender)
@@ -1066,11 +516,11 @@ void BRDuplicateFilesViewController::showPopOverForView(QObject *sender)
 
 void BRDuplicateFilesViewController::showPopOverView(int row)
 {
-    const QStringList &keys = checkSearchActiveAndGetData();
+    const QStringList &keys = m_results->checkSearchActiveAndGetData();
     if (row < 0 || row >= keys.size())
         return;
     const QString key = keys.at(row);
-    const GroupRecord *record = m_dictOfDupeFiles.find(key);
+    const GroupRecord *record = m_results->groups().find(key);
     if (!record || record->filePath.isEmpty())
         return;
 
@@ -1078,7 +528,7 @@ void BRDuplicateFilesViewController::showPopOverView(int row)
     controller->setDelegate(this);
     m_previewDelegate = controller;
     controller->setKey(key);
-    controller->setScanStatus(m_scanStatus);
+    controller->setScanStatus(m_results->scanStatus());
     controller->setFilePaths(record->filePath);
     controller->setFileInfo(key, {record->fileName, record->fileType, record->fileSize});
     controller->showPreview(QUrl::fromLocalFile(record->filePath.constFirst()));
@@ -1098,11 +548,11 @@ void BRDuplicateFilesViewController::closePopOver()
 
 bool BRDuplicateFilesViewController::windowShouldClose()
 {
-    if (!m_scanStatus)
+    if (!m_results->scanStatus())
         return showQuitAlert(QStringLiteral("Quit Quillmere?"),
                              QStringLiteral("Duplicate files scan is in progress. Are you sure "
                                             "you want to quit Quillmere?"));
-    if (!m_dictOfDupeFiles.isEmpty())
+    if (!m_results->groups().isEmpty())
         return showQuitAlert(QStringLiteral("Quit Quillmere?"),
                              QStringLiteral("The current list of the duplicate search results "
                                             "will be lost. Are you sure you want to quit "
@@ -1116,8 +566,7 @@ bool BRDuplicateFilesViewController::showQuitAlert(const QString &title, const Q
         m_alerts.runModal({title, message, {QStringLiteral("Quit"), QStringLiteral("Cancel")}});
     if (answer != AlertPresenter::firstButton)
         return false;
-    clearAll();
-    cancelScanAndStartNewScan();
+    clear();
     return true;
 }
 

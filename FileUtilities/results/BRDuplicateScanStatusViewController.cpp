@@ -50,7 +50,12 @@ void BRDuplicateScanStatusViewController::setNewScanButtonTitle(const QString &t
     Look::setTextStyle(m_newScanButton, 20, QFont::Normal, Look::Color::TextOnColor);
 }
 
-// This screen stays faded out while it is out of sight; the results screen brings it
+void BRDuplicateScanStatusViewController::showFolderName(const QString &folderName)
+{
+    m_directoryLabel->setText(QStringLiteral("in \"") + folderName + u'"');
+}
+
+// This screen stays faded out while it is out of sight; the duplicate side brings it
 // back to full opacity when it shows it again.
 void BRDuplicateScanStatusViewController::startNewScanAction()
 {

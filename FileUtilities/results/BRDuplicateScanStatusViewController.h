@@ -6,7 +6,7 @@ class BRDuplicateStatusViewNewScanButton;
 class QLabel;
 
 // The screen a scan ends on when it found nothing: a line saying so, the folder it looked
-// in (the results screen fills it in), and a way back to the start screen. Nothing is
+// in, and a way back to the start screen. Nothing is
 // lost by going back, so it asks nothing.
 class BRDuplicateScanStatusViewController : public BRDuplicateStatusView
 {
@@ -17,6 +17,8 @@ public:
 
     void setNewScanButtonTitle(const QString &title);
     void setFadeDuration(int ms) { m_fadeDurationMs = ms; }
+    // Names the folder the scan looked in.
+    void showFolderName(const QString &folderName);
 
     QLabel *statusLabel() const { return m_statusLabel; }
     QLabel *directoryLabel() const { return m_directoryLabel; }

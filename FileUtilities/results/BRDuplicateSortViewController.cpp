@@ -24,6 +24,24 @@ const QString musicKey = QStringLiteral("music");
 const QString documentKey = QStringLiteral("document");
 const QString folderKey = QStringLiteral("folder");
 
+QString lookKey(SubType subType)
+{
+    switch (subType) {
+    case SubType::All:
+        return allKey;
+    case SubType::Photo:
+        return photoKey;
+    case SubType::Music:
+        return musicKey;
+    case SubType::Document:
+        return documentKey;
+    case SubType::Folder:
+        return folderKey;
+    }
+    Q_UNREACHABLE();
+    return {};
+}
+
 constexpr int titlePixelSize = 16;
 
 void applyTitle(QAbstractButton *button, const QString &title, Look::Color color)
@@ -80,8 +98,10 @@ QPushButton *makeTitleButton(const QString &objectName, QWidget *parent)
 
 QStringList BRDuplicateSortViewController::sortTypes()
 {
-    return {QStringLiteral("All"), QStringLiteral("Name"), QStringLiteral("Size"),
-            QStringLiteral("Type")};
+    QStringList titles;
+    for (const SortOrder order : allSortOrders)
+        titles.append(sortOrderTitle(order));
+    return titles;
 }
 
 BRDuplicateSortViewController::BRDuplicateSortViewController(QWidget *parent)
@@ -148,7 +168,6 @@ BRDuplicateSortViewController::BRDuplicateSortViewController(QWidget *parent)
     for (const QString &key : {photoKey, musicKey, documentKey, folderKey})
         applyLook(key, false);
     setButtonTextColor();
-    m_selectedSortType = QStringLiteral("All");
 }
 
 void BRDuplicateSortViewController::setDuplicateFileViewDelegate(
@@ -173,62 +192,63 @@ void BRDuplicateSortViewController::allButtonAction()
 {
     updateSubTypeStatusWithIsEnabled(allKey, photoKey, musicKey, documentKey, folderKey);
     m_subTypeActive = false;
-    if (m_selectedSortType && m_duplicateFileViewDelegate)
-        m_duplicateFileViewDelegate->sortMainType(*m_selectedSortType, m_subTypeActive);
+    if (m_duplicateFileViewDelegate)
+        m_duplicateFileViewDelegate->sortMainType(m_selectedSortOrder, m_subTypeActive);
 }
 
 void BRDuplicateSortViewController::photoButtonAction()
 {
-    subTypeButtonAction(photoKey, QStringLiteral("Photo"));
+    subTypeButtonAction(SubType::Photo);
 }
 
 void BRDuplicateSortViewController::musicButtonAction()
 {
-    subTypeButtonAction(musicKey, QStringLiteral("Music"));
+    subTypeButtonAction(SubType::Music);
 }
 
 void BRDuplicateSortViewController::docButtonAction()
 {
-    subTypeButtonAction(documentKey, QStringLiteral("Document"));
+    subTypeButtonAction(SubType::Document);
 }
 
 void BRDuplicateSortViewController::folderButtonAction()
 {
-    subTypeButtonAction(folderKey, QStringLiteral("Folder"));
+    subTypeButtonAction(SubType::Folder);
 }
 
-void BRDuplicateSortViewController::subTypeButtonAction(const QString &key, const QString &name)
+void BRDuplicateSortViewController::subTypeButtonAction(SubType subType)
 {
+    const QString key = lookKey(subType);
     QStringList others{allKey, photoKey, musicKey, documentKey, folderKey};
     others.removeOne(key);
     updateSubTypeStatusWithIsEnabled(key, others[0], others[1], others[2], others[3]);
     m_subTypeActive = true;
-    if (m_selectedSortType && m_duplicateFileViewDelegate)
-        m_duplicateFileViewDelegate->sortSubType(name, *m_selectedSortType);
+    if (m_duplicateFileViewDelegate)
+        m_duplicateFileViewDelegate->sortSubType(subType, m_selectedSortOrder);
 }
 
 void BRDuplicateSortViewController::sortAction()
 {
-    const QString title = m_sortByButton->currentText();
     // The keyboard and the wheel can reach the placeholder without opening the list; it
     // names no order.
-    if (title.isEmpty() || title == sortByTitle())
+    const std::optional<SortOrder> order = sortOrderFromTitle(m_sortByButton->currentText());
+    if (!order)
         return;
-    m_selectedSortType = title;
+    m_selectedSortOrder = *order;
     if (m_duplicateFileViewDelegate)
-        m_duplicateFileViewDelegate->sortMainType(title, m_subTypeActive);
+        m_duplicateFileViewDelegate->sortMainType(*order, m_subTypeActive);
 }
 
-void BRDuplicateSortViewController::enableSortType(const QString &subTypeKey)
+void BRDuplicateSortViewController::enableSortType(SubType subType)
 {
     disableSubTypes();
-    enableSubType(subTypeKey);
+    enableSubType(lookKey(subType));
     if (m_sortByButton->findText(sortByTitle()) < 0)
         m_sortByButton->insertItem(0, sortByTitle());
     m_sortByButton->setCurrentIndex(m_sortByButton->findText(sortByTitle()));
 }
 
-// Opening the list already sorts by its first real item; the bar's own selectedSortType is
+// Opening the list already sorts by its first real item; the bar's own selected order is
 // left as it was, so the sub-type buttons keep sending the last order the user picked.
 void BRDuplicateSortViewController::removeTitleFromPopUp()
 {
@@ -237,9 +257,9 @@ void BRDuplicateSortViewController::removeTitleFromPopUp()
         return;
     m_sortByButton->removeItem(placeholder);
     m_sortByButton->setCurrentIndex(0);
-    const QString title = m_sortByButton->currentText();
-    if (!title.isEmpty() && m_duplicateFileViewDelegate)
-        m_duplicateFileViewDelegate->sortMainType(title, m_subTypeActive);
+    const std::optional<SortOrder> order = sortOrderFromTitle(m_sortByButton->currentText());
+    if (order && m_duplicateFileViewDelegate)
+        m_duplicateFileViewDelegate->sortMainType(*order, m_subTypeActive);
 }
 
 void BRDuplicateSortViewController::updateSubTypeStatusWithIsEnabled(const QString &isEnabled,

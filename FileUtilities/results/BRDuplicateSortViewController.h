@@ -1,13 +1,12 @@
 #pragma once
 
 #include "BRDuplicateSortViewDelegate.h"
+#include "SortOrder.h"
 
 #include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
-
-#include <optional>
 
 class BRDuplicateFilesViewDelegate;
 class BRDuplicateSortPopUpButton;
@@ -25,18 +24,18 @@ class BRDuplicateSortViewController : public QWidget, public BRDuplicateSortView
 public:
     // The placeholder the menu shows from the start of a scan until it is first opened.
     static QString sortByTitle() { return QStringLiteral("Sort By"); }
-    // The menu's items, the sort types the results screen knows.
+    // The menu's items, one per order.
     static QStringList sortTypes();
 
     explicit BRDuplicateSortViewController(QWidget *parent = nullptr);
 
     void setDuplicateFileViewDelegate(BRDuplicateFilesViewDelegate *delegate);
 
-    // Takes a sub-type key: "All", "photo", "music", "document" or "folder".
-    void enableSortType(const QString &subTypeKey) override;
+    void enableSortType(SubType subType) override;
     void updateSubTypeStatusWithIsEnabled(const QString &isEnabled, const QString &isDisabled1,
                                           const QString &isDisabled2, const QString &isDisabled3,
                                           const QString &isDisabled4);
+    // The keys of the looks are "All", "photo", "music", "document" and "folder".
     // Apply the selected or the unselected look of a key; an unknown key does nothing.
     void enableSubType(const QString &key);
     void disableSubType(const QString &key);
@@ -44,7 +43,7 @@ public:
     void setButtonTextColor();
 
     bool subTypeActive() const { return m_subTypeActive; }
-    std::optional<QString> selectedSortType() const { return m_selectedSortType; }
+    SortOrder selectedSortOrder() const { return m_selectedSortOrder; }
     // Whether the key currently wears its selected look.
     bool isSubTypeSelected(const QString &key) const { return m_selectedKeys.contains(key); }
 
@@ -67,7 +66,7 @@ public Q_SLOTS:
     void removeTitleFromPopUp();
 
 private:
-    void subTypeButtonAction(const QString &key, const QString &name);
+    void subTypeButtonAction(SubType subType);
     void applyLook(const QString &key, bool selected);
     QToolButton *imageButtonForKey(const QString &key) const;
 
@@ -79,7 +78,7 @@ private:
     QPushButton *m_newScanButton;
     BRDuplicateSortPopUpButton *m_sortByButton;
     bool m_subTypeActive = false;
-    std::optional<QString> m_selectedSortType;
+    SortOrder m_selectedSortOrder = SortOrder::All;
     QSet<QString> m_selectedKeys;
     BRDuplicateFilesViewDelegate *m_duplicateFileViewDelegate = nullptr;
 };

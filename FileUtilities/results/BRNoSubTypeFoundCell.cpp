@@ -1,9 +1,11 @@
 #include "BRNoSubTypeFoundCell.h"
 
-QString BRNoSubTypeFoundCell::text(const QString &selectedSubType)
+QString BRNoSubTypeFoundCell::text(std::optional<SubType> selectedSubType)
 {
     // The bar calls it "Music & Videos"; the store knows it as "Music".
-    const QString name =
-        selectedSubType == u"Music" ? QStringLiteral("Music & Videos") : selectedSubType;
+    QString name;
+    if (selectedSubType)
+        name = selectedSubType == SubType::Music ? QStringLiteral("Music & Videos")
+                                                 : subTypeName(*selectedSubType);
     return QStringLiteral("No duplicate ") + name;
 }

@@ -1,15 +1,22 @@
 #include "DuplicateTableModel.h"
 
-#include "BRDuplicateFilesViewController.h"
+#include "BRDuplicateTableViewCell.h"
 #include "BRNoSearchResultCell.h"
 #include "BRNoSubTypeFoundCell.h"
+#include "DuplicateResults.h"
 
 #include <QSize>
 
-DuplicateTableModel::DuplicateTableModel(const BRDuplicateFilesViewController &store,
-                                         QObject *parent)
-    : QAbstractListModel(parent), m_store(store)
-{}
+DuplicateTableModel::DuplicateTableModel(const DuplicateResults &results, QObject *parent)
+    : QAbstractListModel(parent), m_results(results)
+{
+    connect(&results, &DuplicateResults::rowsAppended, this, [this] { reload(true); });
+    connect(&results, &DuplicateResults::listReset, this, [this] { reload(false); });
+    connect(&results, &DuplicateResults::rowChanged, this,
+            [this](int row) { rowsChanged(row, row); });
+    connect(&results, &DuplicateResults::allRowsChanged, this,
+            [this] { rowsChanged(0, m_rowCount - 1); });
+}
 
 int DuplicateTableModel::rowCount(const QModelIndex &parent) const
 {
@@ -18,16 +25,21 @@ int DuplicateTableModel::rowCount(const QModelIndex &parent) const
 
 DuplicateTableModel::RowKind DuplicateTableModel::rowKind() const
 {
-    if (m_store.searchActive() && m_store.filteredData().isEmpty())
+    switch (m_results.listContent()) {
+    case DuplicateResults::ListContent::Groups:
+        return RowKind::Group;
+    case DuplicateResults::ListContent::NoSearchHits:
         return RowKind::NoSearchResult;
-    if (m_store.subTypeActive() && m_store.keysOfSubType().isEmpty())
+    case DuplicateResults::ListContent::NoGroupsOfSubType:
         return RowKind::NoSubTypeFound;
+    }
+    Q_UNREACHABLE();
     return RowKind::Group;
 }
 
 QString DuplicateTableModel::keyAt(int row) const
 {
-    const QStringList &keys = m_store.checkSearchActiveAndGetData();
+    const QStringList &keys = m_results.checkSearchActiveAndGetData();
     return (row >= 0 && row < keys.size()) ? keys.at(row) : QString();
 }
 
@@ -36,7 +48,7 @@ const GroupRecord *DuplicateTableModel::recordAt(int row) const
     if (rowKind() != RowKind::Group)
         return nullptr;
     const QString key = keyAt(row);
-    return key.isNull() ? nullptr : m_store.dictOfDupeFiles().find(key);
+    return key.isNull() ? nullptr : m_results.groups().find(key);
 }
 
 QVariant DuplicateTableModel::data(const QModelIndex &index, int role) const
@@ -50,13 +62,14 @@ QVariant DuplicateTableModel::data(const QModelIndex &index, int role) const
     case KeyRole:
         return kind == RowKind::Group ? keyAt(index.row()) : QString();
     case Qt::SizeHintRole:
-        return QSize(0, static_cast<int>(m_store.heightOfRow(index.row())));
+        return QSize(0, kind == RowKind::Group ? BRDuplicateTableViewCell::groupRowHeight
+                                               : BRDuplicateTableViewCell::placeholderRowHeight);
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
         if (kind == RowKind::NoSearchResult)
             return BRNoSearchResultCell::text();
         if (kind == RowKind::NoSubTypeFound)
-            return BRNoSubTypeFoundCell::text(m_store.selectedSubType().value_or(QString()));
+            return BRNoSubTypeFoundCell::text(m_results.selectedSubType());
         if (const GroupRecord *record = recordAt(index.row()))
             return record->fileName;
         return {};
@@ -67,7 +80,7 @@ QVariant DuplicateTableModel::data(const QModelIndex &index, int role) const
 
 void DuplicateTableModel::reload(bool appendedOnly)
 {
-    const int rows = m_store.numberOfRowsInTableView();
+    const int rows = m_results.numberOfRows();
     if (appendedOnly && rows > m_rowCount && rowKind() == RowKind::Group) {
         beginInsertRows(QModelIndex(), m_rowCount, rows - 1);
         m_rowCount = rows;

@@ -2,14 +2,14 @@
 
 #include <QAbstractListModel>
 
-class BRDuplicateFilesViewController;
+class DuplicateResults;
 struct GroupRecord;
 
-// The rows of the results list, read from the results screen's store.
+// The rows of the results list, read from the results.
 //
-// The store changes its lists first and asks for a reload after; the model keeps the row
-// count it last announced until then, so that views never see a count that was not
-// announced. A reload that only added rows at the end is announced as an insertion,
+// The results change their lists first and announce the change after; the model keeps the
+// row count it last announced until then, so that views never see a count that was not
+// announced. A change that only added rows at the end is announced as an insertion,
 // which keeps the scroll position while a scan streams in.
 class DuplicateTableModel : public QAbstractListModel
 {
@@ -28,8 +28,7 @@ public:
         RowKindRole,
     };
 
-    explicit DuplicateTableModel(const BRDuplicateFilesViewController &store,
-                                 QObject *parent = nullptr);
+    explicit DuplicateTableModel(const DuplicateResults &results, QObject *parent = nullptr);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -39,13 +38,13 @@ public:
     const GroupRecord *recordAt(int row) const;
     QString keyAt(int row) const;
 
-    // Brings the views level with the store. `appendedOnly` says that since the last
+private:
+    // Brings the views level with the results. `appendedOnly` says that since the last
     // reload, rows were only added after the existing ones.
     void reload(bool appendedOnly);
     // The rows' contents changed, not their number or order.
     void rowsChanged(int first, int last);
 
-private:
-    const BRDuplicateFilesViewController &m_store;
+    const DuplicateResults &m_results;
     int m_rowCount = 0;
 };

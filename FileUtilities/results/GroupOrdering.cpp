@@ -1,6 +1,5 @@
 #include "GroupOrdering.h"
 
-#include "NamePrefix.h"
 #include "NameSortKeys.h"
 
 #include <QHash>
@@ -8,15 +7,15 @@
 #include <algorithm>
 #include <vector>
 
-QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList &keysOfAll,
+QStringList GroupOrdering::sortedKeys(SortOrder order, const QStringList &keysOfAll,
                                       const GroupMap &groups)
 {
     NameSortKeys names;
     return sortedKeys(
-        sortType, keysOfAll, [&groups](const QString &key) { return groups.find(key); }, names);
+        order, keysOfAll, [&groups](const QString &key) { return groups.find(key); }, names);
 }
 
-QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList &keysOfAll,
+QStringList GroupOrdering::sortedKeys(SortOrder order, const QStringList &keysOfAll,
                                       const GroupLookup &find, NameSortKeys &names,
                                       std::vector<const GroupRecord *> *records)
 {
@@ -33,7 +32,10 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
             entries.push_back({&key, group});
     }
 
-    if (sortType == u"Name") {
+    switch (order) {
+    case SortOrder::All:
+        break;
+    case SortOrder::Name: {
         QStringList fileNames;
         fileNames.reserve(static_cast<qsizetype>(entries.size()));
         for (const Entry &entry : entries)
@@ -43,11 +45,14 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
             entries[i].rank = ranks[i];
         std::stable_sort(entries.begin(), entries.end(),
                          [](const Entry &a, const Entry &b) { return a.rank < b.rank; });
-    } else if (sortType == u"Size") {
+        break;
+    }
+    case SortOrder::Size:
         std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) {
             return a.group->totalSize > b.group->totalSize;
         });
-    } else if (sortType == u"Type") {
+        break;
+    case SortOrder::Type: {
         // A list holds few type texts: order those, then sort the groups by their rank.
         QHash<QString, int> ranks;
         for (const Entry &entry : entries)
@@ -60,6 +65,8 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
             entry.rank = ranks.value(entry.group->fileType);
         std::stable_sort(entries.begin(), entries.end(),
                          [](const Entry &a, const Entry &b) { return a.rank < b.rank; });
+        break;
+    }
     }
 
     QStringList keys;
@@ -78,13 +85,31 @@ QStringList GroupOrdering::sortedKeys(const QString &sortType, const QStringList
 QStringList GroupOrdering::searchHits(const QString &query, const QStringList &keys,
                                       const GroupMap &groups)
 {
-    // The results screen matches through stored name starts; the rule is the same.
-    const QString lowered = query.toLower();
-    QStringList hits;
+    std::vector<const GroupRecord *> records;
+    std::vector<NamePrefix> prefixes;
+    records.reserve(static_cast<size_t>(keys.size()));
+    prefixes.reserve(static_cast<size_t>(keys.size()));
     for (const QString &key : keys) {
         const GroupRecord *group = groups.find(key);
-        if (group && NamePrefix::of(group->fileName).matches(lowered, *group))
-            hits.append(key);
+        records.push_back(group);
+        prefixes.push_back(group ? NamePrefix::of(group->fileName) : NamePrefix());
+    }
+    QStringList hits;
+    for (const size_t position : searchHits(query, records, prefixes))
+        hits.append(keys.at(static_cast<qsizetype>(position)));
+    return hits;
+}
+
+std::vector<size_t> GroupOrdering::searchHits(const QString &query,
+                                              const std::vector<const GroupRecord *> &records,
+                                              const std::vector<NamePrefix> &prefixes)
+{
+    const QString lowered = query.toLower();
+    std::vector<size_t> hits;
+    for (size_t position = 0; position < records.size(); ++position) {
+        const GroupRecord *group = records[position];
+        if (group && prefixes[position].matches(lowered, *group))
+            hits.push_back(position);
     }
     return hits;
 }

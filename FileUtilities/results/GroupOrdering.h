@@ -2,6 +2,8 @@
 
 #include "GroupLookup.h"
 #include "GroupMap.h"
+#include "NamePrefix.h"
+#include "SortOrder.h"
 
 #include <QString>
 #include <QStringList>
@@ -14,15 +16,13 @@ class NameSortKeys;
 class GroupOrdering
 {
 public:
-    // The keys in the order of a sort type: "All" is arrival order, "Name" by name as
-    // people read it, "Size" by the size of all copies together, largest first, and
-    // "Type" by type text in code point order. Equal groups keep their arrival order.
-    // Keys whose group is gone are left out; an unknown sort type gives arrival order.
-    static QStringList sortedKeys(const QString &sortType, const QStringList &keysOfAll,
+    // The keys in the given order (see SortOrder). Equal groups keep their arrival order;
+    // keys whose group is gone are left out.
+    static QStringList sortedKeys(SortOrder order, const QStringList &keysOfAll,
                                   const GroupMap &groups);
     // The same through a lookup; `names` keeps the collation keys of names between sorts,
     // and `records`, when given, receives each sorted key's record.
-    static QStringList sortedKeys(const QString &sortType, const QStringList &keysOfAll,
+    static QStringList sortedKeys(SortOrder order, const QStringList &keysOfAll,
                                   const GroupLookup &find, NameSortKeys &names,
                                   std::vector<const GroupRecord *> *records = nullptr);
 
@@ -30,4 +30,10 @@ public:
     // the start of the name counts, and only the name, not the paths.
     static QStringList searchHits(const QString &query, const QStringList &keys,
                                   const GroupMap &groups);
+    // The same search over a list already looked up: `records` holds its groups (null for
+    // one that is gone) and `prefixes` the stored starts of their names, position by
+    // position. Gives the positions of the hits, in order.
+    static std::vector<size_t> searchHits(const QString &query,
+                                          const std::vector<const GroupRecord *> &records,
+                                          const std::vector<NamePrefix> &prefixes);
 };

@@ -1,21 +1,18 @@
 #include "ScanSession.h"
 
-#include <QThreadPool>
+#include "ScanThreads.h"
 
 ScanSession::ScanSession(ReportHandler handler) : m_handler(std::move(handler)), m_finder(this) {}
 
 std::shared_ptr<ScanSession> ScanSession::start(const QString &path, ReportHandler handler)
 {
     auto session = std::make_shared<ScanSession>(std::move(handler));
-    QThreadPool::globalInstance()->start(
-        [session, path] { session->finder().findDuplicatesInFolder(path); });
+    ScanThreads::start(session, path);
     return session;
 }
 
-void ScanSession::updateDuplicateFiles(const GroupMap &dictOfDupeFiles, bool completeStatus,
-                                       const QString &key, qint64 totalDuplicates,
-                                       qint64 totalDupesSize)
+void ScanSession::receive(const ScanReport &report)
 {
     if (m_handler)
-        m_handler(dictOfDupeFiles, completeStatus, key, totalDuplicates, totalDupesSize);
+        m_handler(report);
 }

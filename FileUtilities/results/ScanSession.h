@@ -1,7 +1,7 @@
 #pragma once
 
 #include "BRDuplicateFinderClass.h"
-#include "ScanReportReceiver.h"
+#include "ScanReportSink.h"
 
 #include <functional>
 #include <memory>
@@ -11,23 +11,19 @@
 // The session lives as long as whoever holds it and the thread that walks; the screen
 // may drop it while the walk winds down after a cancel. Reports go to `handler` on the
 // scan thread, which passes them on to the main thread.
-class ScanSession final : public ScanReportReceiver
+class ScanSession final : public ScanReportSink
 {
 public:
-    using ReportHandler =
-        std::function<void(const GroupMap &groups, bool completeStatus, const QString &key,
-                           qint64 totalDuplicates, qint64 totalDupesSize)>;
+    using ReportHandler = std::function<void(const ScanReport &report)>;
 
     explicit ScanSession(ReportHandler handler);
 
-    // Starts walking `path` on the application's thread pool.
+    // Starts walking `path` on a thread of its own; main thread only.
     static std::shared_ptr<ScanSession> start(const QString &path, ReportHandler handler);
 
     BRDuplicateFinderClass &finder() { return m_finder; }
 
-    void updateDuplicateFiles(const GroupMap &dictOfDupeFiles, bool completeStatus,
-                              const QString &key, qint64 totalDuplicates,
-                              qint64 totalDupesSize) override;
+    void receive(const ScanReport &report) override;
 
 private:
     ReportHandler m_handler;

@@ -6,16 +6,21 @@ namespace {
 const QString folderIdentifier = QStringLiteral("Folder");
 }
 
-std::optional<QString> SubTypeFilter::targetFor(const QString &subType)
+std::optional<QString> SubTypeFilter::targetFor(SubType subType)
 {
-    if (subType == u"Photo")
+    switch (subType) {
+    case SubType::All:
+        return std::nullopt;
+    case SubType::Photo:
         return UniformTypes::image;
-    if (subType == u"Music")
+    case SubType::Music:
         return UniformTypes::audio;
-    if (subType == u"Document")
+    case SubType::Document:
         return UniformTypes::content;
-    if (subType == u"Folder")
+    case SubType::Folder:
         return folderIdentifier;
+    }
+    Q_UNREACHABLE();
     return std::nullopt;
 }
 
@@ -42,16 +47,16 @@ bool SubTypeFilter::checkAllowedDocumentType(const QString &fileUTI) const
     return false;
 }
 
-bool SubTypeFilter::belongs(const QString &subType, const QString &fileUTI) const
+bool SubTypeFilter::belongs(SubType subType, const QString &fileUTI) const
 {
-    QHash<QString, bool> &decided = m_decided[subType];
+    QHash<QString, bool> &decided = m_decided[static_cast<size_t>(subType)];
     auto found = decided.constFind(fileUTI);
     if (found == decided.cend())
         found = decided.insert(fileUTI, decide(subType, fileUTI));
     return *found;
 }
 
-bool SubTypeFilter::decide(const QString &subType, const QString &fileUTI) const
+bool SubTypeFilter::decide(SubType subType, const QString &fileUTI) const
 {
     const auto target = targetFor(subType);
     if (!target)
@@ -59,19 +64,23 @@ bool SubTypeFilter::decide(const QString &subType, const QString &fileUTI) const
     // Film passes the first gate of every view; the second gate sends it to Music alone.
     if (!m_types.conformsTo(fileUTI, *target) && !m_types.conformsTo(fileUTI, UniformTypes::movie))
         return false;
-    if (subType == u"Document") {
-        const bool notExcluded = checkNotAllowedDocumentType(fileUTI);
-        const bool included = checkAllowedDocumentType(fileUTI);
-        return notExcluded && included;
-    }
-    if (subType == u"Music")
+    switch (subType) {
+    case SubType::Document:
+        return checkNotAllowedDocumentType(fileUTI) && checkAllowedDocumentType(fileUTI);
+    case SubType::Music:
         return m_types.conformsTo(fileUTI, UniformTypes::movie) ||
                m_types.conformsTo(fileUTI, UniformTypes::audio);
-    return m_types.conformsTo(fileUTI, UniformTypes::image) ||
-           m_types.conformsTo(fileUTI, folderIdentifier);
+    case SubType::All:
+    case SubType::Photo:
+    case SubType::Folder:
+        return m_types.conformsTo(fileUTI, UniformTypes::image) ||
+               m_types.conformsTo(fileUTI, folderIdentifier);
+    }
+    Q_UNREACHABLE();
+    return false;
 }
 
-QStringList SubTypeFilter::keysOfSubType(const QString &subType, const QStringList &allData,
+QStringList SubTypeFilter::keysOfSubType(SubType subType, const QStringList &allData,
                                          const GroupMap &groups) const
 {
     QStringList keys;

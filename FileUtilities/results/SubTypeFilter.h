@@ -1,12 +1,14 @@
 #pragma once
 
 #include "GroupMap.h"
+#include "SubType.h"
 #include "TypeConformance.h"
 
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <optional>
 
 // Sorts groups into the four views beside All: Photo (images), Music (sound and film),
@@ -15,11 +17,11 @@
 class SubTypeFilter
 {
 public:
-    // The kind a sub-type stands for; nothing for a name that is no sub-type.
-    static std::optional<QString> targetFor(const QString &subType);
+    // The kind a sub-type stands for; nothing for All, which is no kind.
+    static std::optional<QString> targetFor(SubType subType);
 
-    // Decided once per kind: a list holds few kinds and many groups.
-    bool belongs(const QString &subType, const QString &fileUTI) const;
+    // Decided once per kind: a list holds few kinds and many groups. No group belongs to All.
+    bool belongs(SubType subType, const QString &fileUTI) const;
     // False for source code and developer project files, which count as text.
     bool checkNotAllowedDocumentType(const QString &fileUTI) const;
     // True for the document formats a person reads.
@@ -27,12 +29,12 @@ public:
 
     // The keys of `allData` whose groups belong to the sub-type, in the same order; keys
     // whose group is gone are passed over.
-    QStringList keysOfSubType(const QString &subType, const QStringList &allData,
+    QStringList keysOfSubType(SubType subType, const QStringList &allData,
                               const GroupMap &groups) const;
 
 private:
-    bool decide(const QString &subType, const QString &fileUTI) const;
+    bool decide(SubType subType, const QString &fileUTI) const;
 
     TypeConformance m_types;
-    mutable QHash<QString, QHash<QString, bool>> m_decided; // by sub-type, then type
+    mutable std::array<QHash<QString, bool>, allSubTypes.size()> m_decided; // by sub-type, type
 };

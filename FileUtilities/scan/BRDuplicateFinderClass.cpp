@@ -18,8 +18,8 @@ const QString applicationMarker = QStringLiteral(".app");
 
 } // namespace
 
-BRDuplicateFinderClass::BRDuplicateFinderClass(BRDuplicateFilesViewDelegate *delegate)
-    : m_delegate(delegate), m_thumbnails(std::make_shared<ThumbnailCache>())
+BRDuplicateFinderClass::BRDuplicateFinderClass(ScanReportSink *sink)
+    : m_sink(sink), m_thumbnails(std::make_shared<ThumbnailCache>())
 {}
 
 void BRDuplicateFinderClass::setCancelActive(bool value)
@@ -361,12 +361,11 @@ void BRDuplicateFinderClass::updateDictOfDupeFiles(const QString &key, qint64 fi
 void BRDuplicateFinderClass::report(QMutexLocker<QMutex> &locker, bool completeStatus,
                                     const QString &key)
 {
-    const GroupMap snapshot = m_dictOfDupeFiles;
-    const qint64 duplicates = m_totalDupes;
-    const qint64 reclaimable = m_totalDupesSize;
+    const ScanReport snapshot{m_dictOfDupeFiles, key, completeStatus, m_totalDupes,
+                              m_totalDupesSize};
     locker.unlock();
-    if (m_delegate)
-        m_delegate->updateDuplicateFiles(snapshot, completeStatus, key, duplicates, reclaimable);
+    if (m_sink)
+        m_sink->receive(snapshot);
 }
 
 GroupMap BRDuplicateFinderClass::dictOfDupeFiles() const

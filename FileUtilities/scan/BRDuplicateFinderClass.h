@@ -1,6 +1,5 @@
 #pragma once
 
-#include "BRDuplicateFilesViewDelegate.h"
 #include "BRObjectClass.h"
 #include "BucketRecord.h"
 #include "DirectoryEntry.h"
@@ -9,6 +8,7 @@
 #include "FolderRecord.h"
 #include "GroupMap.h"
 #include "OSHashAlgorithm.h"
+#include "ScanReportSink.h"
 #include "Stack.h"
 #include "StackEntry.h"
 
@@ -36,7 +36,7 @@ class ThumbnailCache;
 class BRDuplicateFinderClass
 {
 public:
-    explicit BRDuplicateFinderClass(BRDuplicateFilesViewDelegate *delegate);
+    explicit BRDuplicateFinderClass(ScanReportSink *sink);
 
     // Walks `path` and reports as it goes; returns when the walk ends or is cancelled.
     void findDuplicatesInFolder(const QString &path);
@@ -122,7 +122,7 @@ private:
     Stack<StackEntry> m_stackOfArray;
     BRObjectClass m_methodClass;
     OSHashAlgorithm m_oshash;
-    BRDuplicateFilesViewDelegate *m_delegate;
+    ScanReportSink *m_sink;
 
     FileTypeDatabase m_types;
     QString m_markerCheckedFolder; // the folder path whose ".app" test is remembered

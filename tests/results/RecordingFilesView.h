@@ -11,7 +11,7 @@ class RecordingFilesView final : public QWidget, public BRDuplicateFilesViewDele
 public:
     QStringList calls;
 
-    void updateDuplicateFiles(const GroupMap &, bool, const QString &, qint64, qint64) override
+    void updateDuplicateFiles(const ScanReport &) override
     {
         calls.append(QStringLiteral("updateDuplicateFiles"));
     }
@@ -32,15 +32,16 @@ public:
                          .arg(folderUrl ? folderUrl->toString() : QStringLiteral("none")));
     }
     void startNewScanProcess() override { calls.append(QStringLiteral("startNewScanProcess")); }
-    void sortMainType(const QString &sortType, bool subTypeStatus) override
+    void sortMainType(SortOrder sortType, bool subTypeStatus) override
     {
-        calls.append(
-            QStringLiteral("sortMainType(%1,%2)")
-                .arg(sortType, subTypeStatus ? QStringLiteral("true") : QStringLiteral("false")));
+        calls.append(QStringLiteral("sortMainType(%1,%2)")
+                         .arg(sortOrderTitle(sortType),
+                              subTypeStatus ? QStringLiteral("true") : QStringLiteral("false")));
     }
-    void sortSubType(const QString &subType, const QString &mainType) override
+    void sortSubType(SubType subType, SortOrder mainType) override
     {
-        calls.append(QStringLiteral("sortSubType(%1,%2)").arg(subType, mainType));
+        calls.append(QStringLiteral("sortSubType(%1,%2)")
+                         .arg(subTypeName(subType), sortOrderTitle(mainType)));
     }
     void cancelScanProcess() override { calls.append(QStringLiteral("cancelScanProcess")); }
     void updateScanStatus(bool status) override

@@ -1,9 +1,9 @@
 #include "BRDuplicateFilePreviewTableViewCell.h"
 #include "BRDuplicateFilePreviewViewController.h"
+#include "BRDuplicateFilesViewDelegate.h"
 #include "BRDuplicatePopOverTableView.h"
 #include "FilePreviewView.h"
 #include "LookColors.h"
-#include "ScanReportReceiver.h"
 #include "TestDir.h"
 
 #include <QEnterEvent>
@@ -19,7 +19,7 @@
 
 // The results screen as the popover sees it: it notes the two requests and, if told to,
 // answers a deletion the way the real one does when the Trash took the file.
-class ResultsScreenStandIn final : public ScanReportReceiver
+class ResultsScreenStandIn final : public BRDuplicateFilesViewDelegate
 {
 public:
     QStringList calls;
@@ -35,7 +35,16 @@ public:
     {
         calls.append(QStringLiteral("openURLData(%1,%2)").arg(index).arg(key));
     }
-    void updateDuplicateFiles(const GroupMap &, bool, const QString &, qint64, qint64) override {}
+    void updateDuplicateFiles(const ScanReport &) override {}
+    void showPopOverView(int) override {}
+    void showPopOverForView(QObject *) override {}
+    void closePopOver() override {}
+    void startScanProcess(const std::optional<QUrl> &) override {}
+    void startNewScanProcess() override {}
+    void sortMainType(SortOrder, bool) override {}
+    void sortSubType(SubType, SortOrder) override {}
+    void cancelScanProcess() override {}
+    void updateScanStatus(bool) override {}
 };
 
 class tst_DetailPopover : public QObject

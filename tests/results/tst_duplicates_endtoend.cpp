@@ -7,6 +7,7 @@
 #include "BRDuplicateScanStartViewController.h"
 #include "BRDuplicateStartScanButton.h"
 #include "DesktopWorkspace.h"
+#include "DuplicateResults.h"
 #include "RowAnchoredPopover.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
@@ -73,12 +74,12 @@ private Q_SLOTS:
         QCOMPARE(alerts.shown.first().text, u"3 duplicate files found."_s);
 
         BRDuplicateFilesViewController *results = main.duplicateFilesViewController();
-        QVERIFY(results->scanStatus());
+        QVERIFY(results->results().scanStatus());
         QVERIFY(!status.duplicateScanStatus);
         QCOMPARE(status.duplicateFilesCount, 1);
-        QCOMPARE(results->allData().size(), 1);
-        const QString key = results->allData().first();
-        QCOMPARE(results->dictOfDupeFiles().find(key)->filePath, copies);
+        QCOMPARE(results->results().allData().size(), 1);
+        const QString key = results->results().allData().first();
+        QCOMPARE(results->results().groups().find(key)->filePath, copies);
         const auto label = [results](const QString &name) {
             return results->findChild<QLabel *>(name)->text();
         };
@@ -115,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(results->popover()->isVisible());
         QTRY_COMPARE(detail->dupePreviewTableView()->numberOfRows(), 2);
         QCOMPARE(detail->cellAt(1)->serialLabel()->text(), u"2."_s);
-        QCOMPARE(results->dictOfDupeFiles().find(key)->filePath,
+        QCOMPARE(results->results().groups().find(key)->filePath,
                  (QStringList{copies.at(0), copies.at(2)}));
         QCOMPARE(table->model()->rowCount(), 1);
         QCOMPARE(label(u"totalFilesCountLabel"_s), u"2"_s);

@@ -1,30 +1,16 @@
-#include "ApplicationStatus.h"
-#include "BRDuplicateFilesMainViewDelegate.h"
-#include "BRDuplicateFilesViewController.h"
-#include "BRDuplicateTableViewCell.h"
-#include "BRNoSubTypeFoundCell.h"
-#include "ScriptedAlertPresenter.h"
-#include "ScriptedWorkspace.h"
+#include "DuplicateResults.h"
+#include "ScanThreads.h"
 #include "TestDir.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QStackedWidget>
+#include <QElapsedTimer>
+#include <QSignalSpy>
 #include <QTest>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class RecordingMainView final : public BRDuplicateFilesMainViewDelegate
-{
-public:
-    QList<int> selectedTabs;
-    QList<bool> tabStatus;
-    void updateMainTabViewStatus(bool scanRuns) override { tabStatus.append(scanRuns); }
-    void selectDuplicateTabViewAtIndex(int index) override { selectedTabs.append(index); }
-    void updateDuplicateScanStatus(bool) override {}
-};
 
 GroupRecord group(const QString &name, qint64 size, const QString &uti, const QStringList &paths)
 {
@@ -38,48 +24,29 @@ void settle()
         QCoreApplication::processEvents();
 }
 
-// The results screen with scripted alerts and Trash, and animations cut to nothing.
-struct Screen
+// The results without a screen, fed by hand as a scan would feed them. `shownCount` is
+// what a count label following the results would read.
+struct Store
 {
-    ScriptedAlertPresenter alerts;
-    ScriptedWorkspace workspace;
-    ApplicationStatus status;
-    RecordingMainView mainView;
-    QStackedWidget tabs; // outlives the view, which leaves it when destroyed
-    BRDuplicateFilesViewController view{alerts, workspace, &status};
+    DuplicateResults results;
     GroupMap groups;
+    QString shownCount = QStringLiteral("0");
 
-    Screen()
+    Store()
     {
-        view.setTimings({0, 0, 1000});
-        view.setDuplicateMainViewDelegate(&mainView);
+        QObject::connect(&results, &DuplicateResults::totalsChanged,
+                         [this](qint64 count, qint64) { shownCount = QString::number(count); });
     }
-    // The start, results and status screens, with a status screen that has its label.
-    QLabel *placeInTabs()
-    {
-        auto *statusScreen = new QWidget;
-        auto *directoryLabel = new QLabel(statusScreen);
-        directoryLabel->setObjectName(u"directoryLabel"_s);
-        tabs.addWidget(new QWidget);
-        tabs.addWidget(&view);
-        tabs.addWidget(statusScreen);
-        return directoryLabel;
-    }
-    QString label(const char *name) const
-    {
-        return view.findChild<QLabel *>(QString::fromLatin1(name))->text();
-    }
-    // A scan in progress, fed by hand.
-    void startScan() { view.startScanProcess(QUrl()); }
-    void report(const GroupRecord &record, qint64 count, bool complete = false)
+    void startScan() { results.prepareScan(); }
+    void report(const GroupRecord &record, qint64 count, qint64 bytes = 0)
     {
         groups.insert(record.oldKey, record);
-        view.updateDuplicateFiles(groups, complete, record.oldKey, count, 0);
+        results.postReport({groups, record.oldKey, false, count, bytes});
         settle();
     }
     void finish(qint64 count)
     {
-        view.updateDuplicateFiles(groups, true, QString(), count, 0);
+        results.postReport({groups, QString(), true, count, 0});
         settle();
     }
     // Four finished groups: two photos, a song, a text.
@@ -100,15 +67,11 @@ struct Screen
                8);
         finish(8);
     }
-    void search(const QString &text)
-    {
-        view.findChild<QLineEdit *>(u"searchField"_s)->setText(text);
-    }
     QStringList namesOnScreen() const
     {
         QStringList names;
-        for (const QString &key : view.checkSearchActiveAndGetData())
-            names.append(view.dictOfDupeFiles().find(key)->fileName);
+        for (const QString &key : results.checkSearchActiveAndGetData())
+            names.append(results.groups().find(key)->fileName);
         return names;
     }
 };
@@ -122,19 +85,18 @@ class tst_DuplicateStore : public QObject
 private Q_SLOTS:
     void liveReportsGrowTheListOnceAGroup()
     {
-        Screen screen;
-        screen.startScan();
-        QVERIFY(screen.status.duplicateScanStatus);
-        QCOMPARE(screen.mainView.tabStatus, QList<bool>{true});
+        Store store;
+        store.startScan();
+        QVERIFY(!store.results.scanStatus());
         const GroupRecord photo = group(QStringLiteral("a.jpg"), 10, QString(), {u"/x"_s, u"/y"_s});
-        screen.report(photo, 2);
+        store.report(photo, 2);
         GroupRecord grown = photo;
         grown.filePath.append(QStringLiteral("/z"));
-        screen.report(grown, 3); // a further copy: no list or cursor moves
-        QCOMPARE(screen.view.allData(), QStringList{u"a.jpg"_s});
-        QCOMPARE(screen.view.keysOfAll(), QStringList{u"a.jpg"_s});
-        QCOMPARE(screen.view.index(), 1);
-        QCOMPARE(screen.view.dictOfDupeFiles().find(u"a.jpg"_s)->filePath.size(), 3);
+        store.report(grown, 3); // a further copy: no list or cursor moves
+        QCOMPARE(store.results.allData(), QStringList{u"a.jpg"_s});
+        QCOMPARE(store.results.keysOfAll(), QStringList{u"a.jpg"_s});
+        QCOMPARE(store.results.index(), 1);
+        QCOMPARE(store.results.groups().find(u"a.jpg"_s)->filePath.size(), 3);
     }
 
     void tableAndCountAreThrottled_data()
@@ -155,326 +117,176 @@ private Q_SLOTS:
         QFETCH(bool, searching);
         QFETCH(int, reloads);
         QFETCH(QString, label);
-        Screen screen;
-        screen.startScan();
+        Store store;
+        store.startScan();
         if (searching)
-            screen.search(QStringLiteral("zzz"));
-        screen.view.findChild<QLabel *>(u"totalFilesCountLabel"_s)->setText(QStringLiteral("0"));
-        const int before = screen.view.reloadCount();
-        screen.report(group(QStringLiteral("a"), 1, QString(), {u"/a"_s, u"/b"_s}), count);
-        QCOMPARE(screen.view.reloadCount() - before, reloads);
-        QCOMPARE(screen.label("totalFilesCountLabel"), label);
+            store.results.search(QStringLiteral("zzz"));
+        store.shownCount = QStringLiteral("0");
+        const int before = store.results.reloadCount();
+        store.report(group(QStringLiteral("a"), 1, QString(), {u"/a"_s, u"/b"_s}), count);
+        QCOMPARE(store.results.reloadCount() - before, reloads);
+        QCOMPARE(store.shownCount, label);
     }
 
-    void finishingReportSortsRecountsAndAnnounces()
+    void finishingReportEndsTheScanAndCountsTheList()
     {
-        Screen screen;
-        screen.finishedScan();
-        GroupMap later = screen.groups; // a finishing report's groups are not taken over
-        later.insert(QStringLiteral("late"),
-                     group(QStringLiteral("late"), 1, QString(), {u"/1"_s, u"/2"_s}));
-        QCOMPARE(screen.view.dictOfDupeFiles().size(), 4);
-        QVERIFY(screen.view.scanStatus());
-        QVERIFY(!screen.status.duplicateScanStatus);
-        QCOMPARE(screen.status.duplicateFilesCount, 4);
-        QCOMPARE(screen.mainView.tabStatus.last(), false);
-        QCOMPARE(screen.alerts.shown.size(), 1);
-        QCOMPARE(screen.alerts.shown[0].title, QStringLiteral("Duplicate files scan complete."));
-        QCOMPARE(screen.alerts.shown[0].text, QStringLiteral("8 duplicate files found."));
-        QCOMPARE(screen.label("totalFilesCountLabel"), QStringLiteral("8"));
-        QCOMPARE(screen.label("totalDupesSizeLabel"), QStringLiteral("650 bytes"));
-        QCOMPARE(screen.view.duplicateFinder(), nullptr);
-    }
-
-    void aScanThatFindsNothingEndsOnTheStatusScreen()
-    {
-        TestDir empty;
-        QVERIFY(QDir().mkpath(empty.filePath(u"Holiday"_s)));
-        Screen screen;
-        QLabel *directoryLabel = screen.placeInTabs();
-        screen.view.startScanProcess(QUrl::fromLocalFile(empty.filePath(u"Holiday"_s)));
-        QTRY_COMPARE(screen.mainView.selectedTabs.last(), 2);
-        QCOMPARE(directoryLabel->text(), u"in \"Holiday\""_s);
-        QVERIFY(screen.alerts.shown.isEmpty());
-        QCOMPARE(screen.status.duplicateFilesCount, 0);
-        QVERIFY(screen.view.scanStatus());
-    }
-
-    void stoppingOrStartingAnewAsksFirst_data()
-    {
-        QTest::addColumn<bool>("stop");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("cleared");
-        QTest::newRow("Stop") << true << AlertPresenter::firstButton << true;
-        QTest::newRow("Cancel stopping") << true << AlertPresenter::secondButton << false;
-        QTest::newRow("New scan") << false << AlertPresenter::firstButton << true;
-        QTest::newRow("Cancel a new scan") << false << AlertPresenter::secondButton << false;
-    }
-    void stoppingOrStartingAnewAsksFirst()
-    {
-        QFETCH(bool, stop);
-        QFETCH(int, answer);
-        QFETCH(bool, cleared);
-        Screen screen;
-        if (stop) {
-            screen.startScan();
-            screen.report(group(QStringLiteral("a"), 1, QString(), {u"/a"_s, u"/b"_s}), 2);
-        } else {
-            screen.finishedScan();
-            screen.alerts.shown.clear();
-        }
-        screen.alerts.answers = {answer};
-        stop ? screen.view.cancelScanProcess() : screen.view.startNewScanProcess();
-        settle();
-        QCOMPARE(screen.alerts.shown[0].title, stop ? QStringLiteral("Stop duplicate files scan?")
-                                                    : QStringLiteral("Start a new scan?"));
-        QCOMPARE(screen.view.allData().isEmpty(), cleared);
-        QCOMPARE(screen.view.dictOfDupeFiles().isEmpty(), cleared);
-        QCOMPARE(!screen.mainView.selectedTabs.isEmpty() &&
-                     screen.mainView.selectedTabs.last() == 0,
-                 cleared);
-        if (cleared) {
-            QVERIFY(!screen.status.duplicateScanStatus);
-            QCOMPARE(screen.label("totalFilesCountLabel"), QStringLiteral("0"));
-            // A report still under way from the stopped scan lands nowhere.
-            screen.view.clearAll();
-            screen.report(group(QStringLiteral("late"), 1, QString(), {u"/a"_s, u"/b"_s}), 2);
-        }
+        Store store;
+        QSignalSpy ended(&store.results, &DuplicateResults::scanEnded);
+        QSignalSpy completed(&store.results, &DuplicateResults::scanCompleted);
+        QSignalSpy totals(&store.results, &DuplicateResults::totalsChanged);
+        store.finishedScan();
+        QVERIFY(store.results.scanStatus());
+        QCOMPARE(store.results.groups().size(), 4);
+        QCOMPARE(ended.count(), 1);
+        QCOMPARE(ended.first().first().toInt(), 4);
+        QCOMPARE(completed.count(), 1);
+        QCOMPARE(completed.first().first().toLongLong(), 8);
+        // Counted over the list, not taken from the report: all but one copy of each.
+        QCOMPARE(totals.last(), (QList<QVariant>{qint64(8), qint64(650)}));
+        QCOMPARE(store.results.duplicateFinder(), nullptr);
     }
 
     void aLateReportIsDropped()
     {
-        Screen screen;
-        screen.startScan();
-        screen.groups.insert(u"a"_s, group(u"a"_s, 1, QString(), {u"/a"_s, u"/b"_s}));
-        screen.view.updateDuplicateFiles(screen.groups, false, u"a"_s, 2, 1);
-        screen.view.clearAll(); // before the report reached the main thread
+        Store store;
+        store.startScan();
+        store.groups.insert(u"a"_s, group(u"a"_s, 1, QString(), {u"/a"_s, u"/b"_s}));
+        store.results.postReport({store.groups, u"a"_s, false, 2, 1});
+        store.results.clear(); // before the report reached the main thread
         settle();
-        QVERIFY(screen.view.allData().isEmpty());
-        QVERIFY(screen.view.dictOfDupeFiles().isEmpty());
+        QVERIFY(store.results.allData().isEmpty());
+        QVERIFY(store.results.groups().isEmpty());
     }
 
     void layersComposeAndRebuild()
     {
-        Screen screen;
-        screen.finishedScan();
-        screen.view.sortSubType(QStringLiteral("Photo"), QStringLiteral("Size"));
-        QCOMPARE(screen.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
-        QCOMPARE(screen.label("totalFilesCountLabel"), QStringLiteral("4"));
-        screen.view.sortMainType(QStringLiteral("Name"), true); // the sub-type stays
-        QCOMPARE(screen.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
-        screen.view.sortMainType(QStringLiteral("Sort By"), true); // changes no list
-        QCOMPARE(screen.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
+        Store store;
+        store.finishedScan();
+        DuplicateResults &results = store.results;
+        results.sortSubType(SubType::Photo, SortOrder::Size);
+        QCOMPARE(store.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
+        QCOMPARE(store.shownCount, QStringLiteral("4"));
+        results.sortMainType(SortOrder::Name, true); // the sub-type stays
+        QCOMPARE(store.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
+        results.sortMainType(std::nullopt, true); // "Sort By" changes no list
+        QCOMPARE(store.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
         // All under a named sort shows everything but keeps the sub-type for later.
-        screen.view.sortMainType(QStringLiteral("Name"), false);
-        QCOMPARE(screen.namesOnScreen(),
+        results.sortMainType(SortOrder::Name, false);
+        QCOMPARE(store.namesOnScreen(),
                  (QStringList{u"B2.jpg"_s, u"b10.jpg"_s, u"notes.txt"_s, u"song.mp3"_s}));
-        QCOMPARE(screen.view.selectedSubType(), QStringLiteral("Photo"));
-        screen.view.checkSortTypeAndSortData();
-        QVERIFY(screen.view.subTypeActive());
-        QCOMPARE(screen.namesOnScreen().size(), 2);
+        QCOMPARE(results.selectedSubType(), SubType::Photo);
+        results.checkSortTypeAndSortData();
+        QVERIFY(results.subTypeActive());
+        QCOMPARE(store.namesOnScreen().size(), 2);
 
         // The first keystroke searches the sub-type, later ones everything.
-        screen.search(QStringLiteral("b"));
-        QCOMPARE(screen.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
-        QCOMPARE(screen.label("totalFilesCountLabel"), QStringLiteral("4"));
-        screen.search(QStringLiteral("s"));
-        QCOMPARE(screen.namesOnScreen(), QStringList{u"song.mp3"_s});
-        screen.search(QStringLiteral("mp3")); // a prefix of the name, nothing else
-        QCOMPARE(screen.view.numberOfRowsInTableView(), 1);
-        QCOMPARE(screen.view.heightOfRow(0), 30.0);
-        QCOMPARE(screen.label("totalFilesCountLabel"), QStringLiteral("0"));
-        screen.search(QString()); // the kept sub-type returns
-        QVERIFY(!screen.view.searchActive());
-        QCOMPARE(screen.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
+        results.search(QStringLiteral("b"));
+        QCOMPARE(store.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
+        QCOMPARE(store.shownCount, QStringLiteral("4"));
+        results.search(QStringLiteral("s"));
+        QCOMPARE(store.namesOnScreen(), QStringList{u"song.mp3"_s});
+        results.search(QStringLiteral("mp3")); // a prefix of the name, nothing else
+        QCOMPARE(results.numberOfRows(), 1);
+        QCOMPARE(results.listContent(), DuplicateResults::ListContent::NoSearchHits);
+        QCOMPARE(store.shownCount, QStringLiteral("0"));
+        results.search(QString()); // the kept sub-type returns
+        QVERIFY(!results.searchActive());
+        QCOMPARE(store.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
 
-        screen.view.sortSubType(QStringLiteral("Folder"), QStringLiteral("All"));
-        QCOMPARE(screen.view.numberOfRowsInTableView(), 1);
-        QCOMPARE(screen.view.heightOfRow(0), 30.0);
-        screen.view.sortMainType(QStringLiteral("All"), false);
-        QCOMPARE(screen.view.selectedSubType(), std::nullopt);
-        QCOMPARE(screen.view.numberOfRowsInTableView(), 4);
-        QCOMPARE(screen.view.heightOfRow(0), 105.0);
+        results.sortSubType(SubType::Folder, SortOrder::All);
+        QCOMPARE(results.numberOfRows(), 1);
+        QCOMPARE(results.listContent(), DuplicateResults::ListContent::NoGroupsOfSubType);
+        results.sortMainType(SortOrder::All, false);
+        QCOMPARE(results.selectedSubType(), std::nullopt);
+        QCOMPARE(results.numberOfRows(), 4);
+        QCOMPARE(results.listContent(), DuplicateResults::ListContent::Groups);
     }
 
+    // A copy leaves its group: after the scan the list is counted anew, during one only
+    // the size changes, as the count waits for the scan's next report.
     void removingACopy_data()
     {
-        QTest::addColumn<QString>("trashError");
-        QTest::addColumn<bool>("vanished");
         QTest::addColumn<bool>("scanRunning");
-        QTest::addColumn<QString>("alert");
-        QTest::addColumn<int>("copiesLeft");
-        QTest::addColumn<QString>("countLabel");
-        QTest::addColumn<QString>("sizeLabel");
-        QTest::newRow("to the Trash")
-            << u""_s << false << false << u""_s << 2 << u"2"_s << u"10 bytes"_s;
-        QTest::newRow("during a scan")
-            << u""_s << false << true << u""_s << 2 << u"3"_s << u"10 bytes"_s;
-        QTest::newRow("refused") << u"Permission denied"_s << false << false
-                                 << u"Could not remove some files|Permission denied"_s << 3
-                                 << u"3"_s << u"20 bytes"_s;
-        QTest::newRow("vanished") << u""_s << true << false
-                                  << u"File does not exist|song.mp3 does not exist"_s << 2 << u"2"_s
-                                  << u"10 bytes"_s;
+        QTest::addColumn<QString>("countShown");
+        QTest::addColumn<qint64>("bytesShown");
+        QTest::newRow("after the scan") << false << u"2"_s << qint64(10);
+        QTest::newRow("during a scan") << true << u"3"_s << qint64(10);
     }
     void removingACopy()
     {
-        QFETCH(QString, trashError);
-        QFETCH(bool, vanished);
         QFETCH(bool, scanRunning);
-        QFETCH(QString, alert);
-        QFETCH(int, copiesLeft);
-        QFETCH(QString, countLabel);
-        QFETCH(QString, sizeLabel);
-        TestDir dir;
-        QStringList paths;
-        for (const char *name : {"one.mp3", "two.mp3", "three.mp3"})
-            paths.append(dir.createFile(QString::fromLatin1(name), "0123456789"));
-        if (vanished)
-            dir.removeFile(QStringLiteral("two.mp3"));
-        Screen screen;
-        screen.startScan();
-        screen.groups.insert(u"song"_s,
-                             group(QStringLiteral("song.mp3"), 10, u"audio/mpeg"_s, paths));
-        screen.view.updateDuplicateFiles(screen.groups, false, u"song"_s, 3, 20);
-        settle();
+        Store store;
+        store.startScan();
+        store.report(group(u"song.mp3"_s, 10, u"audio/mpeg"_s, {u"/1"_s, u"/2"_s, u"/3"_s}), 3, 20);
         if (!scanRunning)
-            screen.finish(3);
-        screen.alerts.shown.clear();
-        screen.workspace.trashError = trashError;
+            store.finish(3);
+        qint64 bytesShown = -1;
+        QObject::connect(&store.results, &DuplicateResults::reclaimableBytesChanged,
+                         [&bytesShown](qint64 bytes) { bytesShown = bytes; });
+        QObject::connect(&store.results, &DuplicateResults::totalsChanged,
+                         [&bytesShown](qint64, qint64 bytes) { bytesShown = bytes; });
 
-        screen.view.updateAfterDelete(1, QStringLiteral("song"));
-        settle();
-        const GroupRecord *after = screen.view.dictOfDupeFiles().find(u"song"_s);
-        QCOMPARE(after->filePath.size(), copiesLeft);
-        QCOMPARE(after->totalSize, 10 * copiesLeft);
-        QCOMPARE(after->fileName, QStringLiteral("song.mp3"));
-        QCOMPARE(screen.workspace.trashedPaths,
-                 trashError.isEmpty() && !vanished ? QStringList{paths[1]} : QStringList{});
-        QCOMPARE(screen.alerts.shown.isEmpty(), alert.isEmpty());
-        if (!alert.isEmpty()) {
-            QCOMPARE(screen.alerts.shown[0].title, alert.section(u'|', 0, 0));
-            QCOMPARE(screen.alerts.shown[0].text, alert.section(u'|', 1, 1));
-        }
-        QCOMPARE(screen.label("totalFilesCountLabel"), countLabel);
-        QCOMPARE(screen.label("totalDupesSizeLabel"), sizeLabel);
+        QCOMPARE(store.results.removeCopy(u"song.mp3"_s, u"/2"_s), 0);
+        store.results.recountAfterRemoval();
+        const GroupRecord *after = store.results.groups().find(u"song.mp3"_s);
+        QCOMPARE(after->filePath, (QStringList{u"/1"_s, u"/3"_s}));
+        QCOMPARE(after->totalSize, 20);
+        QTEST(store.shownCount, "countShown");
+        QTEST(bytesShown, "bytesShown");
+        QCOMPARE(store.results.removeCopy(u"gone"_s, u"/1"_s), -1);
     }
 
-    void vanishedCopiesLeaveTheGroupAndTheLastLeadsToTheStatusScreen()
+    void vanishedCopiesLeaveTheGroupAndTheLastTakesItAway()
+    {
+        Store store;
+        store.finishedScan();
+        store.results.search(QStringLiteral("b"));
+        store.results.dropVanishedCopy(u"B2.jpg"_s, u"/c"_s);
+        QCOMPARE(store.results.groups().find(u"B2.jpg"_s)->filePath, QStringList{u"/d"_s});
+        QCOMPARE(store.namesOnScreen(), (QStringList{u"b10.jpg"_s, u"B2.jpg"_s}));
+        store.results.dropVanishedCopy(u"B2.jpg"_s, u"/d"_s);
+        QVERIFY(!store.results.groups().contains(u"B2.jpg"_s));
+        QCOMPARE(store.results.keysOfAll().size(), 3);
+        QCOMPARE(store.namesOnScreen(), QStringList{u"b10.jpg"_s});
+        QCOMPARE(store.shownCount, QStringLiteral("2"));
+    }
+
+    void aWalkReportsIntoTheStoreAndItsThreadIsJoined()
     {
         TestDir dir;
         dir.createPatternFile(u"tree/clip.mov"_s, 70000, 1);
         dir.createPatternFile(u"tree/clip copy.mov"_s, 70000, 1);
-        Screen screen;
-        screen.placeInTabs();
-        screen.view.startScanProcess(QUrl::fromLocalFile(dir.filePath(u"tree"_s)));
-        QTRY_VERIFY(screen.view.scanStatus());
-        QCOMPARE(screen.view.allData().size(), 1);
-        const QString key = screen.view.allData().constFirst();
-        dir.removeFile(u"tree/clip.mov"_s);
-        dir.removeFile(u"tree/clip copy.mov"_s);
-        screen.view.openURLData(0, key); // revealing a vanished copy removes it
-        settle();
-        QCOMPARE(screen.view.dictOfDupeFiles().find(key)->filePath.size(), 1);
-        QCOMPARE(screen.alerts.shown.last().title, u"File does not exist"_s);
-        QCOMPARE(screen.alerts.shown.last().text,
-                 screen.view.dictOfDupeFiles().find(key)->fileName + u" does not exist"_s);
-        screen.view.updateAfterDelete(0, key);
-        settle();
-        QVERIFY(screen.view.dictOfDupeFiles().isEmpty());
-        QVERIFY(screen.view.keysOfAll().isEmpty());
-        QTRY_COMPARE(screen.mainView.selectedTabs.last(), 2);
-        QVERIFY(screen.workspace.selectedFiles.isEmpty());
-        QVERIFY(screen.workspace.trashedPaths.isEmpty());
+        Store store;
+        QSignalSpy completed(&store.results, &DuplicateResults::scanCompleted);
+        store.results.prepareScan();
+        store.results.startScan(dir.filePath(u"tree"_s));
+        QVERIFY(store.results.walkRunning());
+        QTRY_COMPARE(completed.count(), 1);
+        QVERIFY(!store.results.walkRunning());
+        QCOMPARE(store.results.allData().size(), 1);
+        QCOMPARE(store.shownCount, QStringLiteral("2"));
+        QTRY_COMPARE(ScanThreads::count(), 0);
     }
 
-    void revealingAnExistingCopyShowsItInTheFileManager()
+    // The store may go while its walk is deep in a tree: it must neither wait for the walk
+    // nor leave its thread behind.
+    void aStoreDroppedMidScanLetsItsWalkWindDown()
     {
         TestDir dir;
-        const QString a = dir.createFile(u"a.txt"_s, "x"), b = dir.createFile(u"b.txt"_s, "x");
-        Screen screen;
-        screen.startScan();
-        screen.report(group(QStringLiteral("a.txt"), 1, QString(), {a, b}), 2);
-        screen.view.openURLData(1, QStringLiteral("a.txt"));
-        QCOMPARE(screen.workspace.selectedFiles, QStringList{b});
-    }
-
-    void closingTheWindowAsksWhatWouldBeLost_data()
-    {
-        QTest::addColumn<int>("state"); // 0 nothing held, 1 scanning, 2 results
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("closes");
-        QTest::addColumn<QString>("message");
-        const QString scanning = QStringLiteral("Duplicate files scan is in progress. Are you sure "
-                                                "you want to quit Quillmere?");
-        const QString results = QStringLiteral("The current list of the duplicate search results "
-                                               "will be lost. Are you sure you want to quit "
-                                               "Quillmere?");
-        QTest::newRow("nothing held") << 0 << 0 << true << QString();
-        QTest::newRow("scanning, Quit") << 1 << AlertPresenter::firstButton << true << scanning;
-        QTest::newRow("scanning, Cancel") << 1 << AlertPresenter::secondButton << false << scanning;
-        QTest::newRow("results, Quit") << 2 << AlertPresenter::firstButton << true << results;
-        QTest::newRow("results, Cancel") << 2 << AlertPresenter::secondButton << false << results;
-    }
-    void closingTheWindowAsksWhatWouldBeLost()
-    {
-        QFETCH(int, state);
-        QFETCH(int, answer);
-        QFETCH(bool, closes);
-        QFETCH(QString, message);
-        Screen screen;
-        if (state == 0)
-            screen.view.clearAll();
-        if (state == 1)
-            screen.startScan();
-        if (state == 2)
-            screen.finishedScan();
-        screen.alerts.shown.clear();
-        screen.alerts.answers = {answer};
-        QCOMPARE(screen.view.windowShouldClose(), closes);
-        QCOMPARE(screen.alerts.shown.isEmpty(), message.isEmpty());
-        if (!message.isEmpty())
-            QCOMPARE(screen.alerts.shown[0].text, message);
-        if (state != 0 && closes)
-            QCOMPARE(screen.status.duplicateFilesCount, 0);
-    }
-
-    void cellsNameTheirKind_data()
-    {
-        QTest::addColumn<QString>("uti");
-        QTest::addColumn<QString>("bullet");
-        QTest::newRow("song") << u"audio/mpeg"_s << u"circle_pink"_s;
-        QTest::newRow("film") << u"video/mp4"_s << u"circle_green"_s;
-        QTest::newRow("photo") << u"image/jpeg"_s << u"circle_blue"_s;
-        QTest::newRow("folder") << u"Folder"_s << u"circle_turquoise"_s;
-        QTest::newRow("text") << u"text/plain"_s << u"circle_yellow"_s;
-        QTest::newRow("unknown") << u"application/x-zz-unknown"_s << u"circle_yellow"_s;
-    }
-    void cellsNameTheirKind()
-    {
-        QFETCH(QString, uti);
-        QFETCH(QString, bullet);
-        const TypeConformance types;
-        const auto texts = BRDuplicateTableViewCell::textsFor(
-            group(QStringLiteral("x"), 1536, uti, {u"/a"_s, u"/b"_s, u"/c"_s}), types);
-        QCOMPARE(texts.bulletImage, bullet);
-        QCOMPARE(texts.fileCount, QStringLiteral("3"));
-        QCOMPARE(texts.fileSize, QStringLiteral("1.5 KiB"));
-        QCOMPARE(texts.totalSize, QStringLiteral("4.5 KiB"));
-    }
-
-    void placeholdersAndHeaderTexts()
-    {
-        QCOMPARE(BRNoSubTypeFoundCell::text(u"Music"_s),
-                 QStringLiteral("No duplicate Music & Videos"));
-        QCOMPARE(BRNoSubTypeFoundCell::text(u"Photo"_s), QStringLiteral("No duplicate Photo"));
-        Screen screen;
-        screen.view.startScanProcess(QUrl::fromLocalFile(QStringLiteral("/nowhere/anna/Pictures")));
-        QCOMPARE(screen.label("selecteFolderNameLabel"), QStringLiteral("Pictures"));
-        QCOMPARE(screen.label("selectedFolderPathLabel"),
-                 QStringLiteral("nowhere / anna / Pictures"));
+        for (int folder = 0; folder < 40; ++folder)
+            for (int file = 0; file < 50; ++file)
+                dir.createFile(QStringLiteral("f%1/%2.txt").arg(folder).arg(file), "x");
+        auto store = std::make_unique<DuplicateResults>();
+        store->prepareScan();
+        store->startScan(dir.path());
+        QCOMPARE(ScanThreads::count(), 1);
+        QElapsedTimer timer;
+        timer.start();
+        store.reset();
+        QVERIFY(timer.elapsed() < 500);
+        QTRY_COMPARE(ScanThreads::count(), 0);
     }
 };
 
-QTEST_MAIN(tst_DuplicateStore)
+QTEST_GUILESS_MAIN(tst_DuplicateStore)
 #include "tst_duplicatestore.moc"

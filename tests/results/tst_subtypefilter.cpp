@@ -45,13 +45,12 @@ private Q_SLOTS:
                                     : FileTypeDatabase().typeForFileName(fileName).identifier;
         const SubTypeFilter filter;
         QStringList found;
-        for (const QString &view : {QStringLiteral("Photo"), QStringLiteral("Music"),
-                                    QStringLiteral("Document"), QStringLiteral("Folder")}) {
+        for (const SubType view : allSubTypes) {
             if (filter.belongs(view, fileUTI))
-                found.append(view);
+                found.append(subTypeName(view));
         }
         QCOMPARE(found, views);
-        QVERIFY(!filter.belongs(QStringLiteral("All"), fileUTI));
+        QVERIFY(!filter.belongs(SubType::All, fileUTI));
     }
 
     void subsetKeepsTheListOrderAndSkipsGoneGroups()
@@ -68,9 +67,9 @@ private Q_SLOTS:
         const QStringList allData{QStringLiteral("c"), QStringLiteral("gone"), QStringLiteral("a"),
                                   QStringLiteral("b")};
         const SubTypeFilter filter;
-        QCOMPARE(filter.keysOfSubType(QStringLiteral("Photo"), allData, groups),
+        QCOMPARE(filter.keysOfSubType(SubType::Photo, allData, groups),
                  (QStringList{QStringLiteral("c"), QStringLiteral("b")}));
-        QCOMPARE(filter.keysOfSubType(QStringLiteral("Folder"), allData, groups), QStringList());
+        QCOMPARE(filter.keysOfSubType(SubType::Folder, allData, groups), QStringList());
     }
 };
 

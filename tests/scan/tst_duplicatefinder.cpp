@@ -1,5 +1,5 @@
 #include "BRDuplicateFinderClass.h"
-#include "ScanReportReceiver.h"
+#include "ScanReportSink.h"
 #include "TestDir.h"
 
 #include <QFile>
@@ -17,35 +17,25 @@
 
 namespace {
 
-struct Report
-{
-    GroupMap groups;
-    bool complete;
-    QString key;
-    qint64 totalDuplicates;
-    qint64 totalDupesSize;
-};
-
-class RecordingDelegate final : public ScanReportReceiver
+class RecordingSink final : public ScanReportSink
 {
 public:
-    std::function<void(const Report &)> onReport;
-    QList<Report> reports;
+    std::function<void(const ScanReport &)> onReport;
+    QList<ScanReport> reports;
     std::unique_ptr<BRDuplicateFinderClass> finder; // set by scan(), for inspection
 
-    void updateDuplicateFiles(const GroupMap &groups, bool complete, const QString &key,
-                              qint64 totalDuplicates, qint64 totalDupesSize) override
+    void receive(const ScanReport &report) override
     {
-        reports.append({groups, complete, key, totalDuplicates, totalDupesSize});
+        reports.append(report);
         if (onReport)
             onReport(reports.constLast());
     }
-    const Report &last() const { return reports.constLast(); }
+    const ScanReport &last() const { return reports.constLast(); }
     QStringList liveKeys() const
     {
         QStringList keys;
-        for (const Report &report : reports) {
-            if (!report.complete)
+        for (const ScanReport &report : reports) {
+            if (!report.completeStatus)
                 keys.append(report.key);
         }
         return keys;
@@ -79,12 +69,12 @@ class TestDuplicateFinder : public QObject
     Q_OBJECT
 
 private:
-    static std::unique_ptr<RecordingDelegate> scan(const QString &path)
+    static std::unique_ptr<RecordingSink> scan(const QString &path)
     {
-        auto delegate = std::make_unique<RecordingDelegate>();
-        delegate->finder = std::make_unique<BRDuplicateFinderClass>(delegate.get());
-        delegate->finder->findDuplicatesInFolder(path);
-        return delegate;
+        auto sink = std::make_unique<RecordingSink>();
+        sink->finder = std::make_unique<BRDuplicateFinderClass>(sink.get());
+        sink->finder->findDuplicatesInFolder(path);
+        return sink;
     }
 
     // Builds a tree from "path:size:seed" lines: equal sizes and seeds make equal files.
@@ -139,7 +129,7 @@ private Q_SLOTS:
         TestDir dir;
         build(dir, layout);
         const auto result = scan(dir.path());
-        QVERIFY(result->last().complete);
+        QVERIFY(result->last().completeStatus);
         QCOMPARE(result->last().groups.size(), groups);
         if (firstGroup.isEmpty())
             return;
@@ -162,7 +152,7 @@ private Q_SLOTS:
         dir.createFile(QStringLiteral("small.txt"), "hello");
         const auto result = scan(readable ? dir.path() : dir.filePath(QStringLiteral("none")));
         QCOMPARE(result->reports.size(), 1);
-        QVERIFY(result->last().complete);
+        QVERIFY(result->last().completeStatus);
         QCOMPARE(result->last().key, QString());
         QVERIFY(result->last().groups.isEmpty());
         QCOMPARE(result->last().totalDuplicates, 0);
@@ -277,14 +267,14 @@ private Q_SLOTS:
         TestDir dir;
         for (int i = 0; i < 4; ++i)
             dir.createPatternFile(QStringLiteral("d%1/f.dat").arg(i), kBig, 61);
-        RecordingDelegate delegate;
-        BRDuplicateFinderClass finder(&delegate);
-        delegate.onReport = [&finder](const Report &) {
+        RecordingSink sink;
+        BRDuplicateFinderClass finder(&sink);
+        sink.onReport = [&finder](const ScanReport &) {
             finder.setCancelActive(true);
         };
         finder.findDuplicatesInFolder(dir.path());
-        QCOMPARE(delegate.reports.size(), 1);
-        QVERIFY(!delegate.last().complete);
+        QCOMPARE(sink.reports.size(), 1);
+        QVERIFY(!sink.last().completeStatus);
         QVERIFY(finder.dictOfDupeFiles().isEmpty());
         QVERIFY(finder.dict().isEmpty());
         QVERIFY(finder.fileDict().isEmpty());
@@ -314,7 +304,7 @@ private Q_SLOTS:
 
         const auto result = scan(dir.path());
         ::unlink(badName.constData()); // QTemporaryDir cannot name it to remove it
-        QVERIFY(result->last().complete);
+        QVERIFY(result->last().completeStatus);
         QCOMPARE(result->last().groups.size(), 1);
         const GroupRecord group = *result->last().groups.find(result->liveKeys().first());
         QCOMPARE(group.filePath, (QStringList{dir.filePath(QStringLiteral("a/one.dat")),
@@ -352,16 +342,16 @@ private Q_SLOTS:
         TestDir dir;
         for (const char *name : {"a.dat", "b.dat", "c.dat"})
             dir.createPatternFile(QString::fromLatin1(name), kBig, 91);
-        RecordingDelegate delegate;
-        delegate.onReport = [&dir](const Report &report) {
-            if (!report.complete)
+        RecordingSink sink;
+        sink.onReport = [&dir](const ScanReport &report) {
+            if (!report.completeStatus)
                 dir.removeFile(QStringLiteral("c.dat"));
         };
-        BRDuplicateFinderClass finder(&delegate);
+        BRDuplicateFinderClass finder(&sink);
         finder.findDuplicatesInFolder(dir.path());
-        QVERIFY(delegate.last().complete);
-        QCOMPARE(delegate.last().groups.find(delegate.liveKeys().first())->filePath.size(), 2);
-        QCOMPARE(delegate.last().totalDuplicates, 2);
+        QVERIFY(sink.last().completeStatus);
+        QCOMPARE(sink.last().groups.find(sink.liveKeys().first())->filePath.size(), 2);
+        QCOMPARE(sink.last().totalDuplicates, 2);
     }
 
     void unreadableFilesAndFoldersAreNotDuplicates()
@@ -379,12 +369,12 @@ private Q_SLOTS:
         const QString root = dir.path();
         // Exit status: the number of groups, or 200 when the scan did not finish.
         const int groups = runWithoutPrivileges(root, [root] {
-            RecordingDelegate delegate;
-            BRDuplicateFinderClass finder(&delegate);
+            RecordingSink sink;
+            BRDuplicateFinderClass finder(&sink);
             finder.findDuplicatesInFolder(root);
-            return delegate.reports.isEmpty() || !delegate.last().complete
+            return sink.reports.isEmpty() || !sink.last().completeStatus
                        ? 200
-                       : static_cast<int>(delegate.last().groups.size());
+                       : static_cast<int>(sink.last().groups.size());
         });
         QFile::setPermissions(dir.filePath(QStringLiteral("c")), QFileDevice::ReadOwner |
                                                                      QFileDevice::WriteOwner |

@@ -6,20 +6,19 @@ CommandLineReporter::CommandLineReporter(std::FILE *output, bool json)
     : m_output(output), m_json(json)
 {}
 
-void CommandLineReporter::updateDuplicateFiles(const GroupMap &dictOfDupeFiles, bool completeStatus,
-                                               const QString &key, qint64 totalDuplicates,
-                                               qint64 totalDupesSize)
+void CommandLineReporter::receive(const ScanReport &report)
 {
-    m_groups = dictOfDupeFiles;
-    m_totalDuplicates = totalDuplicates;
-    m_totalDupesSize = totalDupesSize;
-    if (completeStatus) {
+    m_groups = report.groups;
+    m_totalDuplicates = report.totalDuplicates;
+    m_totalDupesSize = report.totalDupesSize;
+    if (report.completeStatus) {
         m_finished = true;
         if (m_json)
             writeLine(JsonReportFormat::finalReport(m_groups, keysInDiscoveryOrder(),
-                                                    totalDuplicates, totalDupesSize));
+                                                    m_totalDuplicates, m_totalDupesSize));
         return;
     }
+    const QString &key = report.key;
     const GroupRecord *group = m_groups.find(key);
     if (!group)
         return;
@@ -28,7 +27,7 @@ void CommandLineReporter::updateDuplicateFiles(const GroupMap &dictOfDupeFiles, 
         m_reportedKeys.append(key);
     }
     if (m_json)
-        writeLine(JsonReportFormat::liveReport(key, totalDuplicates, totalDupesSize, *group));
+        writeLine(JsonReportFormat::liveReport(key, m_totalDuplicates, m_totalDupesSize, *group));
 }
 
 QStringList CommandLineReporter::keysInDiscoveryOrder() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScanReportReceiver.h"
+#include "ScanReportSink.h"
 
 #include <QSet>
 #include <QStringList>
@@ -10,14 +10,12 @@
 // Receives the scan's reports for the command-line tool: in JSON mode it writes each one
 // as it comes, and it keeps the final groups, their first-report order and the totals
 // for the readable listing.
-class CommandLineReporter final : public ScanReportReceiver
+class CommandLineReporter final : public ScanReportSink
 {
 public:
     CommandLineReporter(std::FILE *output, bool json);
 
-    void updateDuplicateFiles(const GroupMap &dictOfDupeFiles, bool completeStatus,
-                              const QString &key, qint64 totalDuplicates,
-                              qint64 totalDupesSize) override;
+    void receive(const ScanReport &report) override;
 
     bool finished() const { return m_finished; }
     const GroupMap &groups() const { return m_groups; }

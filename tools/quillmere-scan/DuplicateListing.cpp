@@ -14,7 +14,7 @@ QByteArray DuplicateListing::format(const GroupMap &groups, const QStringList &k
     // The results screen's "Size" order: largest first, equal sizes in discovery order, so
     // the listing is reproducible.
     QString out;
-    for (const QString &key : GroupOrdering::sortedKeys(QStringLiteral("Size"), keys, groups)) {
+    for (const QString &key : GroupOrdering::sortedKeys(SortOrder::Size, keys, groups)) {
         const GroupRecord &group = *groups.find(key);
         out += group.fileName + QStringLiteral(" (") + group.fileType + QStringLiteral("): ") +
                QString::number(group.filePath.size()) + QStringLiteral(" copies of ") +

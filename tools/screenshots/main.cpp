@@ -17,8 +17,10 @@
 #include "BRMainWindowController.h"
 #include "BRRenameTableView.h"
 #include "BRRenameViewController.h"
+#include "DuplicateResults.h"
 #include "RenameNotificationCenter.h"
 #include "RowAnchoredPopover.h"
+#include "ScanThreads.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
 #include "ScriptedWorkspace.h"
@@ -41,7 +43,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
-#include <QThreadPool>
 #include <QToolButton>
 
 #include <algorithm>
@@ -376,14 +377,14 @@ int main(int argc, char *argv[])
     {
         const ReportHold hold;
         start->startScanButton()->click();
-        for (int wait = 0; wait < 200 && !results->scanRunning(); ++wait)
+        for (int wait = 0; wait < 200 && !results->results().walkRunning(); ++wait)
             settle(10);
-        QThreadPool::globalInstance()->waitForDone();
+        ScanThreads::waitForAll();
         QCoreApplication::removePostedEvents(qApp, QEvent::MetaCall);
     }
-    if (!results->duplicateFinder())
+    if (!results->results().duplicateFinder())
         return 1;
-    const GroupMap found = results->duplicateFinder()->dictOfDupeFiles();
+    const GroupMap found = results->results().duplicateFinder()->dictOfDupeFiles();
     QStringList keys = found.keys();
     // In the order the walk formed them: by the path of each group's second copy.
     std::sort(keys.begin(), keys.end(), [&found](const QString &a, const QString &b) {
@@ -397,7 +398,7 @@ int main(int argc, char *argv[])
         arrived.insert(key, record);
         copies += record.filePath.size();
         spare += record.totalSize - record.fileSize;
-        results->updateDuplicateFiles(arrived, false, key, copies, spare);
+        results->updateDuplicateFiles({arrived, key, false, copies, spare});
     };
     for (qsizetype i = 0; i < qMin<qsizetype>(4, keys.size()); ++i)
         arrive(keys.at(i));
@@ -405,7 +406,7 @@ int main(int argc, char *argv[])
 
     for (qsizetype i = 4; i < keys.size(); ++i)
         arrive(keys.at(i));
-    results->updateDuplicateFiles(arrived, true, QString(), copies, spare);
+    results->updateDuplicateFiles({arrived, QString(), true, copies, spare});
     settle();
     results->sortViewController()->photoButton()->click();
     auto *search = results->findChild<QLineEdit *>(u"searchField"_s);
