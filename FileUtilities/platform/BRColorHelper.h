@@ -2,9 +2,8 @@
 
 #include <QColor>
 
-// One way to name a colour across the program: red, green and blue on the scale of 255,
-// alpha from 0 to 1, as designers write them. Screens name colours by role through
-// LookColors.h; this stays for the two screens not yet moved there.
+// Red, green and blue on the scale of 255 and alpha from 0 to 1, as designers write them.
+// The look's colour table is written this way; screens name colours by role (LookColors.h).
 class BRColorHelper
 {
 public:

@@ -1,5 +1,7 @@
 #include "LookColors.h"
 
+#include "BRColorHelper.h"
+
 #include <QtMath>
 
 namespace {
@@ -8,7 +10,8 @@ namespace {
 // hold, so the colour a palette reads back from a style sheet equals its role.
 QColor rgba(int red, int green, int blue, double alpha = 1.0)
 {
-    return QColor(red, green, blue, qRound(alpha * 255));
+    const QColor exact = BRColorHelper::color(red, green, blue, alpha);
+    return QColor(exact.red(), exact.green(), exact.blue(), qRound(alpha * 255));
 }
 
 } // namespace

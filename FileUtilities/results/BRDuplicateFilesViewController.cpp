@@ -2,7 +2,6 @@
 
 #include "AlertPresenter.h"
 #include "ApplicationStatus.h"
-#include "BRColorHelper.h"
 #include "BRDuplicateCancelViewController.h"
 #include "BRDuplicateFilePreviewViewController.h"
 #include "BRDuplicateFilesMainViewDelegate.h"
@@ -14,6 +13,8 @@
 #include "ByteCountFormatter.h"
 #include "DuplicateResults.h"
 #include "DuplicateTableModel.h"
+#include "Look.h"
+#include "LookStyleSheets.h"
 #include "RowAnchoredPopover.h"
 #include "ThumbnailLoader.h"
 #include "ViewFader.h"
@@ -43,18 +44,11 @@ bool fileExistsAtPath(const QString &path)
     return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
 }
 
-QLabel *makeLabel(const QString &objectName, int pixelSize, QFont::Weight weight,
-                  const QColor &color, QWidget *parent)
+QLabel *makeLabel(const QString &objectName, int pixelSize, QFont::Weight weight, Look::Color color,
+                  QWidget *parent)
 {
-    auto *label = new QLabel(parent);
+    QLabel *label = Look::label(parent, pixelSize, weight, color);
     label->setObjectName(objectName);
-    QFont font(QStringLiteral("Helvetica Neue"));
-    font.setPixelSize(pixelSize);
-    font.setWeight(weight);
-    label->setFont(font);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, color);
-    label->setPalette(palette);
     return label;
 }
 
@@ -89,15 +83,15 @@ void BRDuplicateFilesViewController::buildScreen()
     header->setObjectName(QStringLiteral("folderHeader"));
     header->setAutoFillBackground(true);
     QPalette headerPalette = header->palette();
-    headerPalette.setColor(QPalette::Window, BRColorHelper::color(246, 247, 249, 1.0));
+    headerPalette.setColor(QPalette::Window, Look::color(Look::Color::HeaderGround));
     header->setPalette(headerPalette);
 
     m_selectedFolderImageView = new QLabel(header);
     m_selectedFolderImageView->setObjectName(QStringLiteral("selectedFolderImageView"));
     m_selectedFolderImageView->setFixedSize(36, 36);
     m_selectedFolderImageView->setAlignment(Qt::AlignCenter);
-    const QColor dark = BRColorHelper::color(38, 44, 56, 1.0);
-    const QColor grey = BRColorHelper::color(0, 0, 0, 0.5);
+    const Look::Color dark = Look::Color::PrimaryText;
+    const Look::Color grey = Look::Color::SecondaryText;
     m_selecteFolderNameLabel =
         makeLabel(QStringLiteral("selecteFolderNameLabel"), 16, QFont::DemiBold, dark, header);
     m_selectedFolderPathLabel =
@@ -132,9 +126,7 @@ void BRDuplicateFilesViewController::buildScreen()
     m_searchField->setFixedWidth(220);
     m_searchField->addAction(QIcon::fromTheme(QStringLiteral("edit-find")),
                              QLineEdit::LeadingPosition);
-    m_searchField->setStyleSheet(
-        QStringLiteral("QLineEdit { border: 1px solid rgba(0,0,0,0.15); border-radius: 14px;"
-                       " padding: 4px 8px; background: white; min-height: 20px; }"));
+    m_searchField->setStyleSheet(Look::StyleSheet::roundedSearchField());
     connect(m_searchField, &QLineEdit::textChanged, m_results, &DuplicateResults::search);
 
     auto *headerLayout = new QHBoxLayout(header);
