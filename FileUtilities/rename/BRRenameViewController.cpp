@@ -20,6 +20,7 @@
 #include "RenameTableModel.h"
 #include "RowAnchoredPopover.h"
 #include "ViewFader.h"
+#include "WorkerTask.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -28,7 +29,6 @@
 #include <QShowEvent>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <QtConcurrent/QtConcurrentRun>
 
 namespace {
 
@@ -359,12 +359,12 @@ void BRRenameViewController::showPopOver(int row)
 
     // The popover opens at once; its picture follows.
     QPointer<BRFilePreviewPopoverViewController> target(preview);
-    QtConcurrent::run([path] {
-        return BRObjectClass().thumbnailForPath(path, 260, 260);
-    }).then(this, [target](const std::optional<QImage> &image) {
-        if (target && image)
-            target->setImage(*image);
-    });
+    runOnWorker(
+        this, [path] { return BRObjectClass().thumbnailForPath(path, 260, 260); },
+        [target](const std::optional<QImage> &image) {
+            if (target && image)
+                target->setImage(*image);
+        });
     if (record->destinationURL && !record->destinationURL->isEmpty())
         preview->setEditableName(*record->destinationURL);
 }

@@ -1,8 +1,9 @@
 #include "RenameList.h"
 
+#include "WorkerTask.h"
+
 #include <QFileInfo>
 #include <QSet>
-#include <QtConcurrent/QtConcurrentRun>
 
 #include <algorithm>
 #include <memory>
@@ -263,23 +264,27 @@ void RenameList::startRuleRun()
     const QString text = rule == RenameRule::ChangeFullNames ? m_newNameText.value_or(QString())
                                                              : m_addText.value_or(QString());
     const QString numberText = m_numberText.value_or(QString());
-    QtConcurrent::run([format = m_format, rule, text, numberText, where, keys = m_keys,
-                       details = m_records]() mutable {
-        auto result = std::make_shared<RuleRunResult>();
-        switch (rule) {
-        case RenameRule::ChangeFullNames:
-            result->report = format.changeFullFileNames(numberText, text, details, keys, where);
-            break;
-        case RenameRule::AddText:
-            result->report = format.addTextToFileNames(text, details, keys, where);
-            break;
-        }
-        result->details = std::move(details);
-        return result;
-    }).then(this, [this, sequence](const std::shared_ptr<RuleRunResult> &result) {
-        --m_ruleRunsInFlight;
-        finishRuleRun(sequence, *result);
-    });
+    // The names land only while the list lives; a run whose list is gone just ends.
+    runOnWorker(
+        this,
+        [format = m_format, rule, text, numberText, where, keys = m_keys,
+         details = m_records]() mutable {
+            auto result = std::make_shared<RuleRunResult>();
+            switch (rule) {
+            case RenameRule::ChangeFullNames:
+                result->report = format.changeFullFileNames(numberText, text, details, keys, where);
+                break;
+            case RenameRule::AddText:
+                result->report = format.addTextToFileNames(text, details, keys, where);
+                break;
+            }
+            result->details = std::move(details);
+            return result;
+        },
+        [this, sequence](const std::shared_ptr<RuleRunResult> &result) {
+            --m_ruleRunsInFlight;
+            finishRuleRun(sequence, *result);
+        });
 }
 
 void RenameList::finishRuleRun(quint64 sequence, RuleRunResult &result)
@@ -375,17 +380,17 @@ void RenameList::rename()
         return;
     m_renameRunning = true;
     Q_EMIT renameStarted();
-    QtConcurrent::run([format = m_format, keys = m_keys, details = m_records,
-                       bookmarks = m_bookmarks]() mutable {
-        auto result = std::make_shared<RenameRunResult>();
-        result->report = format.renameFiles(keys, details, bookmarks);
-        result->keys = std::move(keys);
-        result->details = std::move(details);
-        result->bookmarks = std::move(bookmarks);
-        return result;
-    }).then(this, [this](const std::shared_ptr<RenameRunResult> &result) {
-        finishRenameRun(*result);
-    });
+    runOnWorker(
+        this,
+        [format = m_format, keys = m_keys, details = m_records, bookmarks = m_bookmarks]() mutable {
+            auto result = std::make_shared<RenameRunResult>();
+            result->report = format.renameFiles(keys, details, bookmarks);
+            result->keys = std::move(keys);
+            result->details = std::move(details);
+            result->bookmarks = std::move(bookmarks);
+            return result;
+        },
+        [this](const std::shared_ptr<RenameRunResult> &result) { finishRenameRun(*result); });
 }
 
 void RenameList::finishRenameRun(RenameRunResult &result)
