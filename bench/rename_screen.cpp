@@ -96,7 +96,7 @@ int main(int argc, char *argv[])
 
     ScriptedAlertPresenter alerts;
     ScriptedOpenPanel openPanel;
-    BRRenameViewController screen({alerts, openPanel, nullptr});
+    BRRenameViewController screen({alerts, openPanel});
     screen.setFadeDuration(0);
     screen.resize(1000, 760);
     screen.show();

@@ -1,7 +1,6 @@
 #include "BRRenameViewController.h"
 
 #include "AlertPresenter.h"
-#include "ApplicationStatus.h"
 #include "BRAddTextViewController.h"
 #include "BRChangeFileNameViewController.h"
 #include "BRDragAndDropView.h"
@@ -45,8 +44,7 @@ QString doesNotExistText(const QString &key)
 
 BRRenameViewController::BRRenameViewController(const Services &services, QWidget *parent)
     : QWidget(parent), m_alerts(services.alerts), m_openPanel(services.openPanel),
-      m_appDelegate(services.appDelegate), m_list(new RenameList(this)),
-      m_center(new RenameNotificationCenter(this))
+      m_list(new RenameList(this)), m_center(new RenameNotificationCenter(this))
 {
     setObjectName(QStringLiteral("renameViewController"));
     buildScreen();
@@ -387,31 +385,12 @@ void BRRenameViewController::showAlert(const QString &title, const QString &desc
     });
 }
 
-bool BRRenameViewController::showQuitAlert(const QString &title, const QString &message)
+QuitPolicy::Request BRRenameViewController::closeRequest() const
 {
-    return m_alerts.runModal(
-               {title, message, {QStringLiteral("Quit"), QStringLiteral("Cancel")}}) ==
-           AlertPresenter::firstButton;
+    return QuitPolicy::Request::CloseOnRename;
 }
 
-bool BRRenameViewController::windowShouldClose()
+void BRRenameViewController::describeHoldings(QuitPolicy::Facts &facts) const
 {
-    if (!m_appDelegate)
-        return true;
-    if (m_list->rowCount() > 0)
-        return showQuitAlert(QStringLiteral("Quit Quillmere?"),
-                             QStringLiteral("There are files selected for rename. Are you sure "
-                                            "you want to quit Quillmere?"));
-    if (!m_appDelegate->duplicateScanStatus && m_appDelegate->duplicateFilesCount > 0) {
-        const bool quit = showQuitAlert(
-            QStringLiteral("Quit Quillmere?"),
-            QStringLiteral("The current list of the duplicate search results will be lost. Are "
-                           "you sure you want to quit Quillmere?"));
-        if (quit) {
-            m_appDelegate->duplicateScanStatus = false;
-            m_appDelegate->duplicateFilesCount = 0;
-        }
-        return quit;
-    }
-    return true;
+    facts.renameRows = rowCount();
 }

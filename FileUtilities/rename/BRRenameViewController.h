@@ -15,7 +15,6 @@
 #include <optional>
 
 class AlertPresenter;
-struct ApplicationStatus;
 class BRDragAndDropView;
 class BRRenameCompleteView;
 class BRRenameTabViewController;
@@ -39,7 +38,6 @@ public:
     {
         AlertPresenter &alerts;
         OpenPanel &openPanel;
-        ApplicationStatus *appDelegate; // null: closing asks nothing
     };
 
     explicit BRRenameViewController(const Services &services, QWidget *parent = nullptr);
@@ -48,8 +46,10 @@ public:
     RenameList *renameList() const { return m_list; }
     // What quitting would lose here.
     int rowCount() const;
+    QuitPolicy::Request closeRequest() const override;
+    void describeHoldings(QuitPolicy::Facts &facts) const override;
     // Empties the list and shows the drop target again, as the Clear button does.
-    void clear();
+    void clear() override;
 
     // The buttons under the list.
     void browseAction();
@@ -60,8 +60,6 @@ public:
     void setRenameButtonTitle(const QString &title, Look::Color color);
     void setViewsHiddenState(bool containerViewHidden, bool dragAndDropViewHidden,
                              bool renameViewHidden, bool completeStatusViewHidden);
-    bool showQuitAlert(const QString &title, const QString &message);
-    bool windowShouldClose() override;
 
     // BRRenameViewDelegate
     void renameUsingOption(const QString &newName, const QString &numberText,
@@ -103,7 +101,6 @@ private:
 
     AlertPresenter &m_alerts;
     OpenPanel &m_openPanel;
-    ApplicationStatus *m_appDelegate;
 
     RenameList *m_list;
     // The rename button's look, after the list's renameActive().

@@ -538,28 +538,17 @@ void BRDuplicateFilesViewController::closePopOver()
         m_popover->close();
 }
 
-bool BRDuplicateFilesViewController::windowShouldClose()
+QuitPolicy::Request BRDuplicateFilesViewController::closeRequest() const
 {
-    if (!m_results->scanStatus())
-        return showQuitAlert(QStringLiteral("Quit Quillmere?"),
-                             QStringLiteral("Duplicate files scan is in progress. Are you sure "
-                                            "you want to quit Quillmere?"));
-    if (!m_results->groups().isEmpty())
-        return showQuitAlert(QStringLiteral("Quit Quillmere?"),
-                             QStringLiteral("The current list of the duplicate search results "
-                                            "will be lost. Are you sure you want to quit "
-                                            "Quillmere?"));
-    return true;
+    return QuitPolicy::Request::CloseOnDuplicates;
 }
 
-bool BRDuplicateFilesViewController::showQuitAlert(const QString &title, const QString &message)
+void BRDuplicateFilesViewController::describeHoldings(QuitPolicy::Facts &facts) const
 {
-    const int answer =
-        m_alerts.runModal({title, message, {QStringLiteral("Quit"), QStringLiteral("Cancel")}});
-    if (answer != AlertPresenter::firstButton)
-        return false;
-    clear();
-    return true;
+    // This screen's own scan and groups, which the user may have emptied by hand since the
+    // scan ended.
+    facts.scanRunning = isScanRunning();
+    facts.groupsHeld = static_cast<int>(groupCount());
 }
 
 void BRDuplicateFilesViewController::showAlert(const QString &title, const QString &description)

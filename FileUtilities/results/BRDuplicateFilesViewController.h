@@ -73,13 +73,13 @@ public:
     void cancelScanProcess() override;
     void updateScanStatus(bool status) override;
 
-    bool windowShouldClose() override;
-
     // What quitting turns on: a scan under way, the groups that would be lost.
     bool isScanRunning() const;
     qsizetype groupCount() const;
+    QuitPolicy::Request closeRequest() const override;
+    void describeHoldings(QuitPolicy::Facts &facts) const override;
     // Drops everything at once and then, after a fade, goes back to the start screen.
-    void clear();
+    void clear() override;
     // Drops everything at once: the results, the scan, the folder shown.
     void clearAll();
     // After a fade: drops everything and goes back to the start screen.
@@ -108,7 +108,6 @@ private:
     void setTotalSizeOfDuplicate(qint64 bytes);
     void setBottomBarControls();
     void createThumbNailForPath(const QString &path, double width, double height);
-    bool showQuitAlert(const QString &title, const QString &message);
     void showAlert(const QString &title, const QString &description);
 
     AlertPresenter &m_alerts;

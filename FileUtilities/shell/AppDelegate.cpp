@@ -5,24 +5,15 @@
 #include <QSettings>
 
 AppDelegate::AppDelegate(AlertPresenter &alerts, QSettings &settings, QObject *parent)
-    : QObject(parent), m_alerts(alerts), m_settings(settings)
-{}
-
-QString AppDelegate::quitTitle()
+    : QObject(parent), m_alerts(alerts), m_settings(settings), m_quitGuard(alerts, *this)
 {
-    return QStringLiteral("Quit Quillmere?");
-}
-
-QString AppDelegate::scanInProgressMessage()
-{
-    return QStringLiteral(
-        "Duplicate files scan is in progress. Are you sure you want to quit Quillmere?");
-}
-
-QString AppDelegate::resultsWillBeLostMessage()
-{
-    return QStringLiteral("The current list of the duplicate search results will be lost. Are "
-                          "you sure you want to quit Quillmere?");
+    m_quitGuard.bringWindowForward = [this] {
+        if (window) {
+            window->show();
+            window->raise();
+            window->activateWindow();
+        }
+    };
 }
 
 void AppDelegate::applicationDidFinishLaunching()
@@ -33,34 +24,18 @@ void AppDelegate::applicationDidFinishLaunching()
 
 AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
 {
-    if (duplicateScanStatus)
-        return showQuitAlert(quitTitle(), scanInProgressMessage());
-    if (duplicateFilesCount > 0)
-        return showQuitAlert(quitTitle(), resultsWillBeLostMessage());
-    // A filled rename list does not hold up quitting; only the window's close button asks.
-    return TerminateReply::TerminateNow;
+    return m_quitGuard.confirmQuit() ? TerminateReply::TerminateNow
+                                     : TerminateReply::TerminateCancel;
+}
+
+bool AppDelegate::windowShouldClose(WindowDelegate &screen)
+{
+    return m_quitGuard.confirmClose(screen);
 }
 
 bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() const
 {
     return !duplicateScanStatus && duplicateFilesCount <= 0;
-}
-
-AppDelegate::TerminateReply AppDelegate::showQuitAlert(const QString &title, const QString &message)
-{
-    const int answer =
-        m_alerts.runModal({title, message, {QStringLiteral("Quit"), QStringLiteral("Cancel")}});
-    if (answer == AlertPresenter::firstButton) {
-        duplicateScanStatus = false;
-        duplicateFilesCount = 0;
-        return TerminateReply::TerminateNow;
-    }
-    if (window) {
-        window->show();
-        window->raise();
-        window->activateWindow();
-    }
-    return TerminateReply::TerminateCancel;
 }
 
 void AppDelegate::showAlert(const QString &title, const QString &description)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ApplicationStatus.h"
+#include "QuitGuard.h"
 
 #include <QObject>
 #include <QPointer>
@@ -9,6 +10,7 @@
 
 class AlertPresenter;
 class QSettings;
+class WindowDelegate;
 
 // The application's delegate: the two facts every decision to quit turns on, the guards
 // on quitting, and the plain alert all screens use. One exists per run; screens are given
@@ -30,15 +32,13 @@ public:
 
     void applicationDidFinishLaunching();
     TerminateReply applicationShouldTerminate();
+    // The window's close button while `screen` is the tool shown last.
+    bool windowShouldClose(WindowDelegate &screen);
     bool applicationShouldTerminateAfterLastWindowClosed() const;
-    TerminateReply showQuitAlert(const QString &title, const QString &message);
     void showAlert(const QString &title, const QString &description);
-
-    static QString quitTitle();
-    static QString scanInProgressMessage();
-    static QString resultsWillBeLostMessage();
 
 private:
     AlertPresenter &m_alerts;
     QSettings &m_settings;
+    QuitGuard m_quitGuard;
 };

@@ -50,7 +50,7 @@ void BRMainWindowController::closeEvent(QCloseEvent *event)
     bool closes = m_quitting;
     if (!closes) {
         if (WindowDelegate *delegate = windowDelegate())
-            closes = delegate->windowShouldClose();
+            closes = m_services.appDelegate.windowShouldClose(*delegate);
         else
             closes = m_services.appDelegate.applicationShouldTerminate() ==
                      AppDelegate::TerminateReply::TerminateNow;

@@ -40,7 +40,7 @@ int main(int argc, char *argv[])
                  {alerts, openPanel, workspace, &appDelegate});
          },
          [&] {
-             return new BRRenameViewController({alerts, openPanel, &appDelegate});
+             return new BRRenameViewController({alerts, openPanel});
          }});
     alerts.setWindow(&window);
     openPanel.setWindow(&window);

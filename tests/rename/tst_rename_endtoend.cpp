@@ -34,7 +34,7 @@ private Q_SLOTS:
 
         ScriptedAlertPresenter alerts;
         ScriptedOpenPanel openPanel;
-        BRRenameViewController screen({alerts, openPanel, nullptr});
+        BRRenameViewController screen({alerts, openPanel});
         screen.setFadeDuration(0);
         screen.resize(1000, 720);
         screen.show();

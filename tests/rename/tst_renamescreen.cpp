@@ -4,6 +4,7 @@
 #include "BRRenameCompleteView.h"
 #include "BRRenameTabViewController.h"
 #include "BRRenameViewController.h"
+#include "QuitGuard.h"
 #include "RenameList.h"
 #include "RenameNotificationCenter.h"
 #include "ScriptedAlertPresenter.h"
@@ -30,9 +31,12 @@ private:
         ScriptedAlertPresenter alerts;
         ScriptedOpenPanel openPanel;
         ApplicationStatus status;
-        BRRenameViewController view{{alerts, openPanel, &status}};
+        BRRenameViewController view{{alerts, openPanel}};
         RenameList &list = *view.renameList();
         Screen() { view.setFadeDuration(0); }
+
+        // The window's close button with this screen shown last.
+        bool closes() { return QuitGuard(alerts, status).confirmClose(view); }
 
         // Adds files as a drop on the list does, with the list showing.
         void add(const QList<QUrl> &files)
@@ -169,7 +173,7 @@ private Q_SLOTS:
         Screen screen;
         screen.list.add(urls(dir, "a.jpg"));
         screen.alerts.answers = {AlertPresenter::secondButton};
-        QVERIFY(!screen.view.windowShouldClose());
+        QVERIFY(!screen.closes());
         QCOMPARE(
             screen.alerts.shown.last().text,
             u"There are files selected for rename. Are you sure you want to quit Quillmere?"_s);
@@ -177,10 +181,10 @@ private Q_SLOTS:
 
         screen.view.clear();
         QCOMPARE(screen.view.rowCount(), 0);
-        QVERIFY(screen.view.windowShouldClose()); // nothing to lose
+        QVERIFY(screen.closes()); // nothing to lose
         screen.status.duplicateFilesCount = 12;
         screen.alerts.answers = {AlertPresenter::firstButton};
-        QVERIFY(screen.view.windowShouldClose());
+        QVERIFY(screen.closes());
         QVERIFY(screen.alerts.shown.last().text.startsWith(u"The current list of the duplicate"));
         QCOMPARE(screen.status.duplicateFilesCount, 0);
         QCOMPARE(screen.alerts.shown.size(), 2);

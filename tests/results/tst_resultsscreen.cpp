@@ -6,6 +6,7 @@
 #include "BRDuplicateTableViewCell.h"
 #include "BRNoSubTypeFoundCell.h"
 #include "DuplicateResults.h"
+#include "QuitGuard.h"
 #include "ScanThreads.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
@@ -322,7 +323,7 @@ private Q_SLOTS:
         QCOMPARE(screen.view.groupCount(), state == 2 ? 4 : 0);
         screen.alerts.shown.clear();
         screen.alerts.answers = {answer};
-        QCOMPARE(screen.view.windowShouldClose(), closes);
+        QCOMPARE(QuitGuard(screen.alerts, screen.status).confirmClose(screen.view), closes);
         QCOMPARE(screen.alerts.shown.isEmpty(), message.isEmpty());
         if (!message.isEmpty())
             QCOMPARE(screen.alerts.shown[0].text, message);

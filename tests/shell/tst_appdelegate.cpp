@@ -18,8 +18,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("answer"); // 0: no alert is expected
         QTest::addColumn<QString>("message");
         QTest::addColumn<bool>("terminates");
-        const QString scan = AppDelegate::scanInProgressMessage();
-        const QString lost = AppDelegate::resultsWillBeLostMessage();
+        const QString scan = QStringLiteral(
+            "Duplicate files scan is in progress. Are you sure you want to quit Quillmere?");
+        const QString lost =
+            QStringLiteral("The current list of the duplicate search results will be lost. Are "
+                           "you sure you want to quit Quillmere?");
         QTest::newRow("nothing held") << false << 0 << 0 << QString() << true;
         QTest::newRow("scan, Quit") << true << 0 << AlertPresenter::firstButton << scan << true;
         QTest::newRow("scan, Cancel") << true << 3 << AlertPresenter::secondButton << scan << false;

@@ -104,7 +104,9 @@ private Q_SLOTS:
         app.duplicateScanStatus = true;
         QCOMPARE(window.close(), closes);
         QCOMPARE(alerts.shown.size(), 1);
-        QCOMPARE(alerts.shown[0].text, AppDelegate::scanInProgressMessage());
+        QCOMPARE(alerts.shown[0].text,
+                 QStringLiteral("Duplicate files scan is in progress. Are you sure you want to "
+                                "quit Quillmere?"));
     }
 };
 

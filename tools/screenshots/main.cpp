@@ -334,7 +334,7 @@ int main(int argc, char *argv[])
              return duplicates;
          },
          [&] {
-             renamer = new BRRenameViewController({alerts, panel, &appDelegate});
+             renamer = new BRRenameViewController({alerts, panel});
              renamer->setFadeDuration(0);
              return renamer;
          }});
