@@ -15,6 +15,7 @@
 #include "DuplicateTableModel.h"
 #include "Look.h"
 #include "LookStyleSheets.h"
+#include "ResultsLog.h"
 #include "RowAnchoredPopover.h"
 #include "ThumbnailLoader.h"
 #include "ViewFader.h"
@@ -421,6 +422,7 @@ bool BRDuplicateFilesViewController::removeFileAtPath(const QString &path, const
         const TrashResult result = m_workspace.moveToTrash(path);
         if (result.trashed)
             return true;
+        qCWarning(resultsLog).noquote() << "kept" << path << ":" << result.error;
         showAlert(QStringLiteral("Could not remove some files"), result.error);
         return false;
     }

@@ -1,6 +1,7 @@
 #include "DuplicateResults.h"
 
 #include "GroupOrdering.h"
+#include "ResultsLog.h"
 #include "ScanSession.h"
 #include "WorkerTask.h"
 
@@ -68,8 +69,10 @@ void DuplicateResults::postReport(QPointer<DuplicateResults> self, quint64 gener
 
 void DuplicateResults::applyReport(quint64 generation, const ScanReport &report)
 {
-    if (generation != m_scanGeneration)
-        return; // sent by a scan that was stopped or cleared since
+    if (generation != m_scanGeneration) {
+        qCDebug(resultsLog) << "dropped a report of a scan that was stopped or cleared since";
+        return;
+    }
     m_totalDupesSize = report.totalDupesSize;
 
     if (report.completeStatus && !report.groups.isEmpty()) {

@@ -1,5 +1,6 @@
 #include "BRDuplicateFinderClass.h"
 
+#include "ScanLog.h"
 #include "ThumbnailCache.h"
 
 #include <QMutexLocker>
@@ -70,6 +71,7 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
 {
     auto enumerator = directoryEnumeratorForPath(path);
     if (!enumerator) {
+        qCWarning(scanLog).noquote() << "cannot walk" << path << "- the scan finds nothing";
         // The screen waits for a final report; an unreadable folder simply found nothing.
         QMutexLocker locker(&m_tablesMutex);
         if (!cancelActive())
@@ -155,7 +157,11 @@ VideoHash BRDuplicateFinderClass::fingerprintOf(const DirectoryEntry &file)
     // files are opened at all; anything else fingerprints as unreadable.
     if (!file.isRegularFile())
         return VideoHash{};
-    return m_oshash.hashForFileInFolder(file.folderDescriptor, file.nativeName, file.path);
+    VideoHash hash =
+        m_oshash.hashForFileInFolder(file.folderDescriptor, file.nativeName, file.path);
+    if (hash.fileHash.isEmpty())
+        qCDebug(scanLog).noquote() << "no fingerprint of" << file.path << ": it cannot be read";
+    return hash;
 }
 
 // Counts a file in its folder's record. The folder's first fingerprint is that of its
