@@ -6,48 +6,54 @@
 #include <QPointer>
 #include <QThread>
 
-#include <algorithm>
-#include <utility>
-#include <vector>
-
 namespace {
 
-struct Walk
+const QString threadName = QStringLiteral("Duplicate scan");
+
+// One walk. The application object owns the thread, so no walk is lost track of; the thread
+// holds its session until the walk ends, and keeps a weak hold after, to cancel it at exit.
+class ScanThread final : public QThread
 {
-    QThread *thread;
-    std::weak_ptr<ScanSession> session;
-};
-
-std::vector<Walk> &walks()
-{
-    static std::vector<Walk> running;
-    return running;
-}
-
-bool stopAtExitRegistered = false;
-
-// What the thread runs. It is called as a const object, yet must let go of its session.
-struct WalkFunction
-{
-    mutable std::shared_ptr<ScanSession> session;
-    QString path;
-
-    void operator()() const
+public:
+    ScanThread(std::shared_ptr<ScanSession> session, QString path)
+        : QThread(QCoreApplication::instance()), m_session(std::move(session)),
+          m_sessionSeen(m_session), m_path(std::move(path))
     {
-        session->finder().findDuplicatesInFolder(path);
-        // The screen may have let go already: the walk's end is then the session's.
-        session.reset();
+        setObjectName(threadName);
     }
+
+    void cancel()
+    {
+        if (const std::shared_ptr<ScanSession> session = m_sessionSeen.lock())
+            session->finder().setCancelActive(true);
+    }
+
+protected:
+    void run() override
+    {
+        m_session->finder().findDuplicatesInFolder(m_path);
+        // The screen may have let go already: the walk's end is then the session's.
+        m_session.reset();
+    }
+
+private:
+    std::shared_ptr<ScanSession> m_session;
+    std::weak_ptr<ScanSession> m_sessionSeen;
+    QString m_path;
 };
 
-void join(QThread *thread)
+QList<ScanThread *> runningWalks()
 {
-    auto &running = walks();
-    running.erase(std::remove_if(running.begin(), running.end(),
-                                 [thread](const Walk &walk) { return walk.thread == thread; }),
-                  running.end());
-    thread->wait();
-    delete thread;
+    auto *application = QCoreApplication::instance();
+    if (!application)
+        return {};
+    QList<ScanThread *> walks;
+    for (QThread *thread :
+         application->findChildren<QThread *>(threadName, Qt::FindDirectChildrenOnly)) {
+        if (auto *walk = dynamic_cast<ScanThread *>(thread))
+            walks.append(walk);
+    }
+    return walks;
 }
 
 } // namespace
@@ -56,44 +62,41 @@ void ScanThreads::start(const std::shared_ptr<ScanSession> &session, const QStri
 {
     Q_ASSERT(QCoreApplication::instance());
     Q_ASSERT(QThread::currentThread() == QCoreApplication::instance()->thread());
-    if (!stopAtExitRegistered) {
-        // Post routines run while the application object is still whole, so a walk's
-        // last report can still be posted to it.
-        qAddPostRoutine(&ScanThreads::stopAll);
-        stopAtExitRegistered = true;
-    }
-    QThread *thread = QThread::create(WalkFunction{session, path});
-    thread->setObjectName(QStringLiteral("Duplicate scan"));
-    walks().push_back({thread, session});
+    // Post routines run while the application object is still whole, so a walk's last
+    // report can still be posted to it. Removed first, so it is there once.
+    qRemovePostRoutine(&ScanThreads::stopAll);
+    qAddPostRoutine(&ScanThreads::stopAll);
+    auto *thread = new ScanThread(session, path);
     QObject::connect(thread, &QThread::finished, QCoreApplication::instance(),
-                     [guard = QPointer<QThread>(thread)] {
-                         if (guard)
-                             join(guard);
+                     [walk = QPointer<QThread>(thread)] {
+                         // Gone when stopped at exit. "finished" comes from the thread just
+                         // before it ends, so it is waited for.
+                         if (!walk)
+                             return;
+                         walk->wait();
+                         delete walk.data();
                      });
     thread->start();
 }
 
 int ScanThreads::count()
 {
-    return static_cast<int>(walks().size());
+    return static_cast<int>(runningWalks().size());
 }
 
 void ScanThreads::waitForAll()
 {
-    for (const Walk &walk : walks())
-        walk.thread->wait();
+    for (ScanThread *walk : runningWalks())
+        walk->wait();
 }
 
 void ScanThreads::stopAll()
 {
-    const std::vector<Walk> running = std::exchange(walks(), {});
-    for (const Walk &walk : running) {
-        if (const std::shared_ptr<ScanSession> session = walk.session.lock())
-            session->finder().setCancelActive(true);
+    const QList<ScanThread *> walks = runningWalks();
+    for (ScanThread *walk : walks)
+        walk->cancel();
+    for (ScanThread *walk : walks) {
+        walk->wait();
+        delete walk;
     }
-    for (const Walk &walk : running) {
-        walk.thread->wait();
-        delete walk.thread;
-    }
-    stopAtExitRegistered = false;
 }
