@@ -126,8 +126,9 @@ void RenameList::clearAll()
     const bool hadRows = !m_keys.isEmpty();
     m_keys.clear();
     m_keysChangedSinceAnnounce = true;
-    m_records.clear();
-    m_bookmarks.clear();
+    // Ten thousand rows and their bookmarks are let go of off the main thread.
+    releaseOnWorker(std::exchange(m_records, {}));
+    releaseOnWorker(std::exchange(m_bookmarks, {}));
     m_sortKeys = NameSortKeys();
     m_keysSorted = true;
     m_index = 0;
@@ -310,6 +311,7 @@ void RenameList::finishRuleRun(quint64 sequence, RuleRunResult &result)
     if (missing)
         Q_EMIT filesMissing();
     announce();
+    releaseOnWorker(std::move(result.details));
     Q_EMIT ruleRunEnded();
 }
 
@@ -440,4 +442,5 @@ void RenameList::finishRenameRun(RenameRunResult &result)
         clearAll();
     announce();
     Q_EMIT renameEnded(renamed, someFailed);
+    releaseOnWorker(std::move(result));
 }
