@@ -1,4 +1,5 @@
 #include "DuplicateResults.h"
+#include "ResultsFixtures.h"
 #include "ScanThreads.h"
 #include "TestDir.h"
 
@@ -11,18 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-GroupRecord group(const QString &name, qint64 size, const QString &uti, const QStringList &paths)
-{
-    return GroupRecord{
-        name, size, QStringLiteral("Kind of ") + name, paths, name, {}, uti, size * paths.size()};
-}
-
-void settle()
-{
-    for (int i = 0; i < 3; ++i)
-        QCoreApplication::processEvents();
-}
 
 // The results without a screen, fed by hand as a scan would feed them. `shownCount` is
 // what a count label following the results would read.

@@ -1,6 +1,7 @@
 #include "BRNoSearchResultCell.h"
 #include "DuplicateResults.h"
 #include "DuplicateTableModel.h"
+#include "ResultsFixtures.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -10,12 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void settle()
-{
-    for (int i = 0; i < 3; ++i)
-        QCoreApplication::processEvents();
-}
 
 // The list's model over results fed by hand, checked by Qt's model tester throughout.
 struct List

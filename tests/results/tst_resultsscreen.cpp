@@ -7,6 +7,7 @@
 #include "BRNoSubTypeFoundCell.h"
 #include "DuplicateResults.h"
 #include "QuitGuard.h"
+#include "ResultsFixtures.h"
 #include "ScanThreads.h"
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
@@ -23,18 +24,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-GroupRecord group(const QString &name, qint64 size, const QString &uti, const QStringList &paths)
-{
-    return GroupRecord{
-        name, size, QStringLiteral("Kind of ") + name, paths, name, {}, uti, size * paths.size()};
-}
-
-void settle()
-{
-    for (int i = 0; i < 3; ++i)
-        QCoreApplication::processEvents();
-}
 
 // The duplicate side with scripted alerts and Trash, animations cut to nothing, and the
 // results screen fed by hand or by a real scan.
