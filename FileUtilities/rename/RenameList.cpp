@@ -38,7 +38,10 @@ void RenameList::add(const QList<QUrl> &urls)
     // Asking the list itself would cost a pass over it per file: minutes for a big drop.
     QSet<QString> listed(m_keys.cbegin(), m_keys.cend());
     for (const QUrl &url : urls) {
-        const QString path = url.toLocalFile();
+        QString path = url.toLocalFile();
+        // File managers hand over a folder as "…/Album/": the row is the folder itself.
+        while (path.size() > 1 && path.endsWith(u'/'))
+            path.chop(1);
         if (path.isEmpty())
             continue;
         const QString key = QFileInfo(path).fileName();
@@ -46,7 +49,7 @@ void RenameList::add(const QList<QUrl> &urls)
             duplicateMet = duplicateMet || !key.isEmpty();
             continue;
         }
-        m_format.saveBookmark(url, m_bookmarks);
+        m_format.saveBookmark(QUrl::fromLocalFile(path), m_bookmarks);
         listed.insert(key);
         m_keys.insert(m_index, key);
         ++m_index;

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
@@ -308,6 +309,23 @@ private Q_SLOTS:
         QVERIFY(l.list.keys().isEmpty());
         QVERIFY(l.list.addDropped(urls(dir, "a.jpg")));
         QCOMPARE(l.list.keys(), QStringList{u"a.jpg"_s});
+    }
+
+    // A file manager names a dropped folder with a trailing slash; it is listed, and
+    // renamed, as the folder.
+    void aFolderGivenWithATrailingSlashIsListedAsItself()
+    {
+        TestDir dir;
+        const QString album = dir.createDir(u"Album"_s);
+        Listed l;
+        QVERIFY(l.list.addDropped({QUrl::fromLocalFile(album + u"//"_s)}));
+        QCOMPARE(l.list.keys(), QStringList{u"Album"_s});
+        QCOMPARE(l.list.records()[u"Album"_s].sourceURL, QUrl::fromLocalFile(album));
+        l.list.setFullNameRule(u"Trip"_s, u"1"_s, NamePlacement::AfterName);
+        l.waitForRules();
+        l.renameAndWait();
+        QCOMPARE(l.renamed, QStringList{u"Trip1"_s});
+        QVERIFY(QFileInfo(dir.filePath(u"Trip1"_s)).isDir());
     }
 };
 
