@@ -25,7 +25,9 @@ BRAddTextViewController::BRAddTextViewController(RenameNotificationCenter *cente
     layout->addWidget(m_addTextField, 1);
     layout->addWidget(m_whereOptionButton);
 
-    connect(m_addTextField, &QLineEdit::textEdited, this,
+    // Any change of the text, not only a key typed: dictation and assistive tools set the
+    // text as a whole. The panel's own resets are made with the signals blocked.
+    connect(m_addTextField, &QLineEdit::textChanged, this,
             [this] { controlTextDidChange(m_addTextField); });
     connect(m_whereOptionButton, &QComboBox::activated, this,
             &BRAddTextViewController::whereOptionAction);
@@ -51,8 +53,10 @@ void BRAddTextViewController::showEvent(QShowEvent *event)
 void BRAddTextViewController::controlTextDidChange(QLineEdit *field)
 {
     // Too long a text takes back the keystroke: the field returns to what was last sent.
-    if (field && field->text().size() > TEXT_FIELD_LIMIT)
+    if (field && field->text().size() > TEXT_FIELD_LIMIT) {
+        const QSignalBlocker quiet(m_addTextField);
         m_addTextField->setText(m_addText);
+    }
     callDelegate();
 }
 
@@ -75,7 +79,10 @@ void BRAddTextViewController::formatOptionAction()
     const auto chosen = RenamePanelControls::chosenRule(m_formatOption);
     if (!tabs || !chosen || *chosen == RenameRule::AddText)
         return;
-    m_addTextField->setText(QString());
+    {
+        const QSignalBlocker quiet(m_addTextField);
+        m_addTextField->setText(QString());
+    }
     tabs->showRule(*chosen);
     m_formatOption->setCurrentIndex(0);
     if (m_delegate)
@@ -84,5 +91,6 @@ void BRAddTextViewController::formatOptionAction()
 
 void BRAddTextViewController::clearText()
 {
+    const QSignalBlocker quiet(m_addTextField);
     m_addTextField->setText(QString());
 }

@@ -40,9 +40,11 @@ BRChangeFileNameViewController::BRChangeFileNameViewController(RenameNotificatio
     layout->addWidget(m_numberTextField);
     layout->addWidget(m_whereOptionButton);
 
-    connect(m_newNameTextField, &QLineEdit::textEdited, this,
+    // Any change of the text, not only a key typed: dictation and assistive tools set the
+    // text as a whole. The panel's own resets are made with the signals blocked.
+    connect(m_newNameTextField, &QLineEdit::textChanged, this,
             [this] { controlTextDidChange(m_newNameTextField); });
-    connect(m_numberTextField, &QLineEdit::textEdited, this,
+    connect(m_numberTextField, &QLineEdit::textChanged, this,
             [this] { controlTextDidChange(m_numberTextField); });
     connect(m_whereOptionButton, &QComboBox::activated, this,
             &BRChangeFileNameViewController::whereOptionAction);
@@ -70,8 +72,10 @@ void BRChangeFileNameViewController::controlTextDidChange(QLineEdit *field)
 {
     // Too long a text takes back the keystroke, always in the rule text: the number
     // field's own overlong text stays and simply fails to read as a number.
-    if (field && field->text().size() > TEXT_FIELD_LIMIT)
+    if (field && field->text().size() > TEXT_FIELD_LIMIT) {
+        const QSignalBlocker quiet(m_newNameTextField);
         m_newNameTextField->setText(m_newNameText);
+    }
     callDelegate();
 }
 
@@ -95,7 +99,10 @@ void BRChangeFileNameViewController::formatOptionAction()
     const auto chosen = RenamePanelControls::chosenRule(m_formatOptionButton);
     if (!tabs || !chosen || *chosen == RenameRule::ChangeFullNames)
         return;
-    m_newNameTextField->setText(QString());
+    {
+        const QSignalBlocker quiet(m_newNameTextField);
+        m_newNameTextField->setText(QString());
+    }
     tabs->showRule(*chosen);
     // Ready for the way back.
     m_formatOptionButton->setCurrentIndex(0);
@@ -105,6 +112,8 @@ void BRChangeFileNameViewController::formatOptionAction()
 
 void BRChangeFileNameViewController::clearText()
 {
+    const QSignalBlocker quietName(m_newNameTextField);
+    const QSignalBlocker quietNumber(m_numberTextField);
     m_newNameTextField->setText(QString());
     m_numberTextField->setText(QStringLiteral("1"));
 }

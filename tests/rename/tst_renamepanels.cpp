@@ -47,6 +47,7 @@ private Q_SLOTS:
     void switchingRulesClearsTheTextLeftAndKeepsTheNumber();
     void ruleSwitchDoesNothingOutsideTheTabs();
     void clearTextEmptiesFieldsWithoutSending();
+    void textSetWithoutKeysIsSent();
     void shownPanelTakesTheKeyboard();
 };
 
@@ -191,10 +192,25 @@ void TestRenamePanels::ruleSwitchDoesNothingOutsideTheTabs()
     BRChangeFileNameViewController alone(nullptr);
     alone.setDelegate(&delegate);
     alone.newNameTextField()->setText(u"Trip"_s);
+    const qsizetype sent = delegate.calls.size();
     alone.show();
     QTest::keyClick(alone.formatOptionButton(), Qt::Key_Down);
     QCOMPARE(alone.newNameTextField()->text(), u"Trip"_s);
-    QVERIFY(delegate.calls.isEmpty());
+    QCOMPARE(delegate.calls.size(), sent);
+}
+
+// Dictation and assistive tools set a field's text whole, without a key: the names follow.
+void TestRenamePanels::textSetWithoutKeysIsSent()
+{
+    Panels panels;
+    panels.change()->newNameTextField()->setText(u"Harbour"_s);
+    QCOMPARE(panels.delegate.calls.size(), 1);
+    QCOMPARE(panels.delegate.calls.last(), u"renameUsingOption(Harbour|1|After name)"_s);
+    panels.change()->numberTextField()->setText(u"5"_s);
+    QCOMPARE(panels.delegate.calls.last(), u"renameUsingOption(Harbour|5|After name)"_s);
+    panels.tabs.setSelectedIndex(1);
+    panels.add()->addTextField()->insert(u"-x"_s);
+    QCOMPARE(panels.delegate.calls.last(), u"renameUsingAddTextOption(-x|After name)"_s);
 }
 
 void TestRenamePanels::clearTextEmptiesFieldsWithoutSending()
