@@ -20,7 +20,8 @@ bool QuitGuard::confirmClose(WindowDelegate &screen)
 
 bool QuitGuard::confirm(QuitPolicy::Request request, WindowDelegate *screen)
 {
-    QuitPolicy::Facts facts{m_status.duplicateScanStatus, m_status.duplicateFilesCount, 0};
+    QuitPolicy::Facts facts{m_status.duplicateScanStatus, m_status.duplicateFilesCount,
+                            m_status.renameRows};
     if (screen)
         screen->describeHoldings(facts);
     const QuitPolicy::Decision decision = QuitPolicy::decide(request, facts);

@@ -27,6 +27,13 @@ QString renameFilesSelected()
         "There are files selected for rename. Are you sure you want to quit Quillmere?");
 }
 
+QString renameFilesAndResultsHeld()
+{
+    return QStringLiteral("There are files selected for rename, and the current list of the "
+                          "duplicate search results will be lost. Are you sure you want to quit "
+                          "Quillmere?");
+}
+
 } // namespace
 
 Decision decide(Request request, const Facts &facts)
@@ -43,15 +50,21 @@ Decision decide(Request request, const Facts &facts)
         if (facts.scanRunning)
             return {quitAlert(scanInProgress()), Clears::DuplicateResults, false};
         if (facts.groupsHeld > 0)
-            return {quitAlert(resultsWillBeLost()), Clears::DuplicateResults, false};
+            return {
+                quitAlert(facts.renameRows > 0 ? renameFilesAndResultsHeld() : resultsWillBeLost()),
+                Clears::DuplicateResults, false};
         return {};
-    case Request::CloseOnRename:
+    case Request::CloseOnRename: {
         // The list in front of the user comes first; a running scan is not asked about here.
+        const bool resultsHeld = !facts.scanRunning && facts.groupsHeld > 0;
+        if (facts.renameRows > 0 && resultsHeld)
+            return {quitAlert(renameFilesAndResultsHeld()), Clears::ApplicationStatus, false};
         if (facts.renameRows > 0)
             return {quitAlert(renameFilesSelected()), Clears::Nothing, false};
-        if (!facts.scanRunning && facts.groupsHeld > 0)
+        if (resultsHeld)
             return {quitAlert(resultsWillBeLost()), Clears::ApplicationStatus, false};
         return {};
+    }
     }
     return {};
 }

@@ -5,6 +5,7 @@
 #include "DesktopWorkspace.h"
 #include "QtAlertPresenter.h"
 #include "QtOpenPanel.h"
+#include "RenameList.h"
 #include "ToolTipDelayStyle.h"
 
 #include <QApplication>
@@ -40,7 +41,10 @@ int main(int argc, char *argv[])
                  {alerts, openPanel, workspace, &appDelegate});
          },
          [&] {
-             return new BRRenameViewController({alerts, openPanel});
+             auto *renamer = new BRRenameViewController({alerts, openPanel});
+             QObject::connect(renamer->renameList(), &RenameList::rowCountChanged, &appDelegate,
+                              [&appDelegate](int rows) { appDelegate.renameRows = rows; });
+             return renamer;
          }});
     alerts.setWindow(&window);
     openPanel.setWindow(&window);

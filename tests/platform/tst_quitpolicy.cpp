@@ -17,6 +17,9 @@ const QString lost =
                    "you want to quit Quillmere?");
 const QString renameList =
     QStringLiteral("There are files selected for rename. Are you sure you want to quit Quillmere?");
+const QString both = QStringLiteral(
+    "There are files selected for rename, and the current list of the duplicate search results "
+    "will be lost. Are you sure you want to quit Quillmere?");
 
 } // namespace
 
@@ -59,13 +62,18 @@ private Q_SLOTS:
             Clears::DuplicateResults, false);
         row("results close, groups", Request::CloseOnDuplicates, false, 1, 0, lost,
             Clears::DuplicateResults, false);
+        row("results close, groups and rename rows", Request::CloseOnDuplicates, false, 3, 2, both,
+            Clears::DuplicateResults, false);
 
-        // Closing on the rename screen: its list first, then finished results.
+        // Closing on the rename screen: its list first, then finished results; both held,
+        // the one question names both.
         row("rename close, nothing held", Request::CloseOnRename, false, 0, 0, {}, Clears::Nothing,
             false);
         row("rename close, rows", Request::CloseOnRename, false, 0, 1, renameList, Clears::Nothing,
             false);
-        row("rename close, rows beat results", Request::CloseOnRename, false, 9, 1, renameList,
+        row("rename close, rows and results", Request::CloseOnRename, false, 9, 1, both,
+            Clears::ApplicationStatus, false);
+        row("rename close, rows, scan running", Request::CloseOnRename, true, 9, 1, renameList,
             Clears::Nothing, false);
         row("rename close, results", Request::CloseOnRename, false, 9, 0, lost,
             Clears::ApplicationStatus, false);
