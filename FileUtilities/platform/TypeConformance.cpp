@@ -22,6 +22,10 @@ const QHash<QString, QStringList> &membersOfKinds()
          {QStringLiteral(
              "application/vnd.openxmlformats-officedocument.wordprocessingml.document")}},
         {UniformTypes::numbersDocument, {QStringLiteral("application/vnd.apple.numbers")}},
+        {UniformTypes::openDocument,
+         {QStringLiteral("application/vnd.oasis.opendocument.text"),
+          QStringLiteral("application/vnd.oasis.opendocument.spreadsheet"),
+          QStringLiteral("application/vnd.oasis.opendocument.presentation")}},
         {UniformTypes::sourceCode,
          {QStringLiteral("text/x-csrc"),
           QStringLiteral("text/x-chdr"),

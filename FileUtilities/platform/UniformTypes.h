@@ -22,6 +22,8 @@ inline const QString wordDocument = QStringLiteral("com.microsoft.word.doc");
 inline const QString wordOpenXmlDocument =
     QStringLiteral("org.openxmlformats.wordprocessingml.document");
 inline const QString numbersDocument = QStringLiteral("com.apple.iwork.numbers.numbers");
+// Texts, spreadsheets and presentations of LibreOffice and the other OpenDocument programs.
+inline const QString openDocument = QStringLiteral("org.oasis-open.opendocument");
 inline const QString xcodeProject = QStringLiteral("com.apple.xcode.projectdata");
 inline const QString storyboard =
     QStringLiteral("com.apple.dt.interfacebuilder.document.storyboard");

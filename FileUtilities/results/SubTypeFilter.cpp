@@ -40,7 +40,8 @@ bool SubTypeFilter::checkAllowedDocumentType(const QString &fileUTI) const
          {UniformTypes::rtf, UniformTypes::text, UniformTypes::pdf, UniformTypes::rtfd,
           UniformTypes::flatRtfd, UniformTypes::utf8PlainText, UniformTypes::utf16ExternalPlainText,
           UniformTypes::utf16PlainText, UniformTypes::wordDocument,
-          UniformTypes::wordOpenXmlDocument, UniformTypes::numbersDocument}) {
+          UniformTypes::wordOpenXmlDocument, UniformTypes::numbersDocument,
+          UniformTypes::openDocument}) {
         if (m_types.conformsTo(fileUTI, kind))
             return true;
     }

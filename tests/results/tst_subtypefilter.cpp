@@ -29,6 +29,9 @@ private Q_SLOTS:
         row("Word", "letter.doc", {"Document"});
         row("Word, Open XML", "report.docx", {"Document"});
         row("Numbers", "budget.numbers", {"Document"});
+        row("OpenDocument text", "letter.odt", {"Document"});
+        row("OpenDocument spreadsheet", "budget.ods", {"Document"});
+        row("OpenDocument presentation", "talk.odp", {"Document"});
         row("Markdown is text", "README.md", {"Document"});
         row("C++ source is text but held back", "main.cpp", {});
         row("Python source", "tool.py", {});
