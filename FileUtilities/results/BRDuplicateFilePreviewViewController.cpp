@@ -7,6 +7,7 @@
 #include "ByteCountFormatter.h"
 #include "FilePreviewView.h"
 #include "Look.h"
+#include "UserLocale.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -126,10 +127,7 @@ BRDuplicateFilePreviewViewController::getModifiedDateFromPath(const QString &pat
     const std::optional<struct stat> status = entryStatus(path);
     if (!status)
         return std::nullopt;
-    const QDateTime modified = QDateTime::fromSecsSinceEpoch(status->st_mtim.tv_sec);
-    // English month names whatever the user's language, as the rest of the screen reads.
-    return QLocale(QLocale::English, QLocale::UnitedStates)
-        .toString(modified, QStringLiteral("dd MMM yyyy"));
+    return UserLocale::shortDate(QDateTime::fromSecsSinceEpoch(status->st_mtim.tv_sec));
 }
 
 std::optional<QString>
