@@ -288,6 +288,12 @@ void DuplicateResults::sortMainType(std::optional<SortOrder> sortType, bool subT
         reloadData();
         return;
     }
+    // "All" from the sort menu is the order of arrival, not a sub-type: a chosen sub-type
+    // stays chosen, as its button still shows.
+    if (subTypeStatus) {
+        sortData(*sortType);
+        return;
+    }
     disableSubTypeAndSortData(*sortType);
 }
 

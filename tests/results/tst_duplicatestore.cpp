@@ -157,6 +157,11 @@ private Q_SLOTS:
         QCOMPARE(store.shownCount, QStringLiteral("4"));
         results.sortMainType(SortOrder::Name, true); // the sub-type stays
         QCOMPARE(store.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
+        // The sort menu's "All" is the order of arrival; the sub-type stays with it too.
+        results.sortMainType(SortOrder::All, true);
+        QCOMPARE(store.namesOnScreen(), (QStringList{u"b10.jpg"_s, u"B2.jpg"_s}));
+        QCOMPARE(results.selectedSubType(), SubType::Photo);
+        results.sortMainType(SortOrder::Name, true);
         results.sortMainType(std::nullopt, true); // "Sort By" changes no list
         QCOMPARE(store.namesOnScreen(), (QStringList{u"B2.jpg"_s, u"b10.jpg"_s}));
         // All under a named sort shows everything but keeps the sub-type for later.
