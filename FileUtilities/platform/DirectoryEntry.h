@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FileStamp.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringView>
@@ -20,6 +22,7 @@ struct DirectoryEntry
     QString folderPath; // the path without its last component, shared by a folder's entries
     Kind kind = Kind::File;
     qint64 size = 0; // lstat size: a symbolic link counts as the link itself
+    FileStamp stamp; // the entry as the walk saw it, to tell later whether it changed
 
     // The name as the file system spells it, and a descriptor of the folder holding the
     // entry, both valid until the walk moves on (-1 when the walk has none): opening the

@@ -163,7 +163,7 @@ DirectoryEnumerator::readFolder(int fd, const QByteArray &nativePath, const QStr
                               : S_ISREG(info.st_mode) ? DirectoryEntry::Kind::File
                                                       : DirectoryEntry::Kind::OtherFile;
             folder.entries.push_back(
-                {folder.names.size(), length, kind, static_cast<qint64>(info.st_size)});
+                {folder.names.size(), length, kind, FileStamp::fromStatus(info)});
             folder.names.append(name, length + 1); // with its NUL, for openat
         }
     }
@@ -219,7 +219,8 @@ std::optional<DirectoryEntry> DirectoryEnumerator::nextEntry()
             appendChildPath(folder.path, decodeName(entry.nativeName), entry.path);
         entry.folderPath = folder.path;
         entry.kind = listed.kind;
-        entry.size = listed.size;
+        entry.size = listed.stamp.size;
+        entry.stamp = listed.stamp;
         entry.folderDescriptor = folder.descriptor;
         if (entry.isDirectory()) {
             QByteArray nativePath;

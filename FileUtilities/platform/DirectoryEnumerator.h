@@ -37,7 +37,7 @@ private:
         qsizetype nameOffset; // into the folder's names, where each name ends with a NUL
         qsizetype nameLength;
         DirectoryEntry::Kind kind;
-        qint64 size;
+        FileStamp stamp;
     };
     struct OpenFolder
     {

@@ -60,7 +60,9 @@ BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget
     : QWidget(parent), m_serialLabel(makeRowLabel(QStringLiteral("serialLabel"), 13, this)),
       m_pathLabel(makePathLabel(this)), m_deleteButton(new QToolButton(this)),
       m_byteSizeLabel(makeRowLabel(QStringLiteral("byteSizeLabel"), 11, this)),
-      m_modifiedDateLabel(makeRowLabel(QStringLiteral("modifiedDateLabel"), 11, this))
+      m_modifiedDateLabel(makeRowLabel(QStringLiteral("modifiedDateLabel"), 11, this)),
+      m_checkingLabel(makeRowLabel(QStringLiteral("checkingLabel"), 11, this)),
+      m_sameFileLabel(makeRowLabel(QStringLiteral("sameFileLabel"), 11, this))
 {
     setObjectName(QStringLiteral("dupeFilePreviewCell"));
     m_serialLabel->setFixedWidth(24);
@@ -79,15 +81,22 @@ BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget
     connect(m_deleteButton, &QToolButton::clicked, this,
             &BRDuplicateFilePreviewTableViewCell::deleteAction);
 
+    m_checkingLabel->setText(QStringLiteral("Checking\u2026"));
+    Look::setTextStyle(m_checkingLabel, 11, QFont::DemiBold, Look::Color::PrimaryText);
+    m_checkingLabel->hide();
+    m_sameFileLabel->hide();
+
     auto *details = new QHBoxLayout;
     details->setSpacing(14);
     details->addWidget(m_byteSizeLabel);
     details->addWidget(m_modifiedDateLabel);
+    details->addWidget(m_checkingLabel);
     details->addStretch();
     auto *text = new QVBoxLayout;
     text->setSpacing(8);
     text->addWidget(m_pathLabel);
     text->addLayout(details);
+    text->addWidget(m_sameFileLabel);
     text->addStretch();
     auto *layout = new QHBoxLayout(this);
     // Above and below the path: 12 + 8 + the details line + the rest make the row's fixed
@@ -161,6 +170,25 @@ void BRDuplicateFilePreviewTableViewCell::deleteAction()
     applyColors();
     m_deleteButton->hide();
     m_delegate->deletePath(m_deleteButton);
+}
+
+void BRDuplicateFilePreviewTableViewCell::setChecking(bool checking)
+{
+    m_checking = checking;
+    m_deleting = m_deleting || checking;
+    m_checkingLabel->setVisible(checking);
+    // The date makes room for the word; the size stays.
+    m_modifiedDateLabel->setVisible(!checking);
+    if (checking)
+        m_deleteButton->hide();
+    applyColors();
+}
+
+void BRDuplicateFilePreviewTableViewCell::setSameFileAs(int serial)
+{
+    m_sameFileLabel->setVisible(serial > 0);
+    m_sameFileLabel->setText(serial > 0 ? QStringLiteral("Same file as %1.").arg(serial)
+                                        : QString());
 }
 
 void BRDuplicateFilePreviewTableViewCell::setHovered(bool hovered)

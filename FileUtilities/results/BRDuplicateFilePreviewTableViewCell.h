@@ -20,6 +20,8 @@ public:
     // The row's height beyond that of its path.
     static constexpr int fixedHeight = 52;
     static constexpr int preferredWidth = 312;
+    // The line a row adds when it names the same file as another row.
+    static constexpr int sameFileLineHeight = 18;
 
     explicit BRDuplicateFilePreviewTableViewCell(QWidget *parent = nullptr);
 
@@ -39,6 +41,15 @@ public:
 
     // The delete button's action.
     void deleteAction();
+
+    // While its copy is checked before it goes, the row says so in place of its button.
+    void setChecking(bool checking);
+    bool isChecking() const { return m_checking; }
+    QLabel *checkingLabel() const { return m_checkingLabel; }
+    // The row names the same file as row `serial` (counted from 1) under another name;
+    // 0 when it is a copy of its own.
+    void setSameFileAs(int serial);
+    QLabel *sameFileLabel() const { return m_sameFileLabel; }
 
     static QFont pathFont();
     static QColor pathColor();
@@ -61,9 +72,12 @@ private:
     QToolButton *m_deleteButton;
     QLabel *m_byteSizeLabel;
     QLabel *m_modifiedDateLabel;
+    QLabel *m_checkingLabel;
+    QLabel *m_sameFileLabel;
     BRDuplicateFilePreviewDelegate *m_delegate = nullptr;
     bool m_hovered = false;
     // Once its copy is on the way to the Trash the row stays grey, hovered or not, until
     // the list is rebuilt.
     bool m_deleting = false;
+    bool m_checking = false;
 };

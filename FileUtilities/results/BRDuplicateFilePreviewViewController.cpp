@@ -117,8 +117,34 @@ void BRDuplicateFilePreviewViewController::removeDataAtIndex(int row)
     if (row < 0 || row >= m_filePaths.size())
         return;
     const QString path = m_filePaths.at(row);
+    // The rows after it move up; what they name as the same file moves with them.
+    QList<int> sameFileRows;
+    for (qsizetype at = 0; at < m_filePaths.size(); ++at) {
+        if (m_filePaths.at(at) == path)
+            continue;
+        const int earlier = at < m_sameFileRows.size() ? m_sameFileRows.at(at) : -1;
+        const bool earlierGone = earlier >= 0 && m_filePaths.at(earlier) == path;
+        sameFileRows.append(earlier < 0 || earlierGone ? -1 : earlier - (earlier > row ? 1 : 0));
+    }
+    m_sameFileRows = sameFileRows;
     m_filePaths.removeAll(path);
+    m_checking.remove(path);
     reloadData();
+}
+
+void BRDuplicateFilePreviewViewController::setChecking(const QString &path, bool checking)
+{
+    if (checking)
+        m_checking.insert(path);
+    else
+        m_checking.remove(path);
+    const int row = static_cast<int>(m_filePaths.indexOf(path));
+    if (BRDuplicateFilePreviewTableViewCell *cell = row >= 0 ? cellAt(row) : nullptr) {
+        if (checking)
+            cell->setChecking(true);
+        else
+            reloadData(); // a copy that stays gets its row back as it was
+    }
 }
 
 std::optional<QString>
@@ -176,8 +202,10 @@ qreal BRDuplicateFilePreviewViewController::heightOfRow(int row)
     insertSymbol(row);
     if (row < 0 || row >= m_data.size())
         return BRDuplicateFilePreviewTableViewCell::fixedHeight;
+    const bool sameFile = row < m_sameFileRows.size() && m_sameFileRows.at(row) >= 0;
     return calculateHeightForLabel(m_data.at(row)) +
-           BRDuplicateFilePreviewTableViewCell::fixedHeight;
+           BRDuplicateFilePreviewTableViewCell::fixedHeight +
+           (sameFile ? BRDuplicateFilePreviewTableViewCell::sameFileLineHeight : 0);
 }
 
 BRDuplicateFilePreviewTableViewCell *BRDuplicateFilePreviewViewController::viewForRow(int row)
@@ -188,6 +216,9 @@ BRDuplicateFilePreviewTableViewCell *BRDuplicateFilePreviewViewController::viewF
     cell->deleteButton()->setHidden(m_filePaths.size() <= 1);
     cell->serialLabel()->setText(QString::number(row + 1) + QLatin1Char('.'));
     cell->setPathText(row >= 0 && row < m_data.size() ? m_data.at(row) : QString());
+    cell->setSameFileAs(row >= 0 && row < m_sameFileRows.size() ? m_sameFileRows.at(row) + 1 : 0);
+    if (row >= 0 && row < m_filePaths.size() && m_checking.contains(m_filePaths.at(row)))
+        cell->setChecking(true);
 
     const std::optional<QString> modified = row >= 0 && row < m_filePaths.size()
                                                 ? getModifiedDateFromPath(m_filePaths.at(row))

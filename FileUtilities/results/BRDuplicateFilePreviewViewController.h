@@ -3,6 +3,8 @@
 #include "BRDuplicateFilePreviewDelegate.h"
 
 #include <QHash>
+#include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -42,6 +44,13 @@ public:
     void setScanStatus(bool scanStatus) { m_scanStatus = scanStatus; }
     void setFilePaths(const QStringList &filePaths) { m_filePaths = filePaths; }
     void setFileInfo(const QString &key, const FileInfo &info) { m_fileInfo.insert(key, info); }
+    // For each path, the row of an earlier path that names the same file, or -1.
+    void setSameFileRows(const QList<int> &rows) { m_sameFileRows = rows; }
+
+    // The copy at `path` is being checked before it goes: its row says so, and its button
+    // is gone until the check ends.
+    void setChecking(const QString &path, bool checking);
+    bool isChecking(const QString &path) const { return m_checking.contains(path); }
 
     BRDuplicateFilesViewDelegate *delegate() const { return m_delegate; }
     const std::optional<QString> &key() const { return m_key; }
@@ -90,5 +99,7 @@ private:
     std::optional<QString> m_key;
     QStringList m_data;
     QStringList m_filePaths;
+    QList<int> m_sameFileRows;
+    QSet<QString> m_checking;
     BRDuplicateFilesViewDelegate *m_delegate = nullptr;
 };

@@ -11,8 +11,10 @@
 #include "BRDuplicateTableViewCell.h"
 #include "BRObjectClass.h"
 #include "ByteCountFormatter.h"
+#include "CopyRemoval.h"
 #include "DuplicateResults.h"
 #include "DuplicateTableModel.h"
+#include "HardLinks.h"
 #include "Look.h"
 #include "LookStyleSheets.h"
 #include "ResultsLog.h"
@@ -60,12 +62,14 @@ BRDuplicateFilesViewController::BRDuplicateFilesViewController(AlertPresenter &a
                                                                ApplicationStatus *appDelegate,
                                                                QWidget *parent)
     : QWidget(parent), m_alerts(alerts), m_workspace(workspace), m_appDelegateTarget(appDelegate),
-      m_results(new DuplicateResults(this)), m_thumbnails(new ThumbnailLoader(this)),
-      m_progressTimer(new QTimer(this))
+      m_results(new DuplicateResults(this)), m_removal(new CopyRemoval(workspace, this)),
+      m_thumbnails(new ThumbnailLoader(this)), m_progressTimer(new QTimer(this))
 {
     setObjectName(QStringLiteral("BRDuplicateFilesViewController"));
     buildScreen();
     connectResults();
+    connect(m_removal, &CopyRemoval::finished, this,
+            &BRDuplicateFilesViewController::removalFinished);
     connect(m_progressTimer, &QTimer::timeout, this,
             &BRDuplicateFilesViewController::pollScanProgress);
 }
@@ -359,6 +363,9 @@ void BRDuplicateFilesViewController::cancelScanAndStartNewScan()
 
 void BRDuplicateFilesViewController::clearAll()
 {
+    // A copy being checked stays where it is; one already moved is in the Trash. Either
+    // way the groups it belonged to are gone.
+    m_removal->abandon();
     closePopOver();
     m_results->clear();
     m_appDelegate = nullptr;
@@ -396,8 +403,54 @@ void BRDuplicateFilesViewController::updateAfterDelete(int index, const QString 
     if (!record || index < 0 || index >= record->filePath.size())
         return;
     const QString path = record->filePath.at(index);
-    if (!removeFileAtPath(path, key))
+    if (!fileExistsAtPath(path)) {
+        removeFileAtPath(path, key);
         return;
+    }
+    // The copy goes only once it is proven a copy; that may take a while for a large file,
+    // so it is checked on a worker while its row says so.
+    QStringList others = record->filePath;
+    others.removeAll(path);
+    if (!m_removal->start({key, path, others, stampOf(record->fileStamps, path)}))
+        return;
+    if (m_previewDelegate && m_previewDelegate->key() == key)
+        m_previewDelegate->setChecking(path, true);
+}
+
+bool BRDuplicateFilesViewController::isRemovingCopies() const
+{
+    return m_removal->isBusy();
+}
+
+void BRDuplicateFilesViewController::removalFinished(const CopyRemoval::Result &result)
+{
+    const QString &key = result.request.key;
+    const QString &path = result.request.path;
+    const bool popoverShowsGroup = m_previewDelegate && m_previewDelegate->key() == key;
+    if (popoverShowsGroup)
+        m_previewDelegate->setChecking(path, false);
+    switch (result.outcome) {
+    case CopyRemoval::Outcome::Trashed:
+        copyWentToTrash(key, path);
+        return;
+    case CopyRemoval::Outcome::Vanished:
+        removeFileAtPath(path, key);
+        return;
+    case CopyRemoval::Outcome::Cancelled:
+        return;
+    case CopyRemoval::Outcome::Changed:
+    case CopyRemoval::Outcome::LastCopy:
+    case CopyRemoval::Outcome::NotACopy:
+    case CopyRemoval::Outcome::Unreadable:
+    case CopyRemoval::Outcome::TrashRefused:
+        break;
+    }
+    qCWarning(resultsLog).noquote() << "kept" << path << ":" << result.message << result.detail;
+    showAlert(QStringLiteral("Could not remove some files"), result.message);
+}
+
+void BRDuplicateFilesViewController::copyWentToTrash(const QString &key, const QString &path)
+{
     const qsizetype row = m_results->removeCopy(key, path);
     if (row < 0)
         return;
@@ -411,23 +464,18 @@ void BRDuplicateFilesViewController::updateAfterDelete(int index, const QString 
             self->m_results->announceRowChange(static_cast<int>(row));
         }
     });
-    if (m_previewDelegate)
-        m_previewDelegate->removeDataAtIndex(index);
+    if (m_previewDelegate && m_previewDelegate->key() == key)
+        m_previewDelegate->removeDataAtIndex(
+            static_cast<int>(m_previewDelegate->filePaths().indexOf(path)));
     m_results->recountAfterRemoval();
 }
 
 bool BRDuplicateFilesViewController::removeFileAtPath(const QString &path, const QString &key)
 {
-    if (fileExistsAtPath(path)) {
-        const TrashResult result = m_workspace.moveToTrash(path);
-        if (result.trashed)
-            return true;
-        qCWarning(resultsLog).noquote() << "kept" << path << ":" << result.error;
-        showAlert(QStringLiteral("Could not remove some files"), result.error);
+    // Only a copy that went behind our back comes here: it leaves the group as if it had
+    // been removed here. One that exists goes through the check and the Trash on a worker.
+    if (fileExistsAtPath(path))
         return false;
-    }
-
-    // The copy went behind our back: it leaves the group as if it had been removed here.
     const GroupRecord *record = m_results->groups().find(key);
     if (!record)
         return false;
@@ -474,7 +522,7 @@ void BRDuplicateFilesViewController::setBottomBarControls()
     m_selecteFolderNameLabel->setText(QFileInfo(path).fileName());
     // "/home/anna/Pictures" reads "home / anna / Pictures".
     m_selectedFolderPathLabel->setText(path.mid(1).replace(u'/', QStringLiteral(" / ")));
-    showTotals(m_results->totaldupes(), m_results->totalDupesSize());
+    showTotals(m_results->totaldupes(), m_results->reclaimableBytes());
 }
 
 void BRDuplicateFilesViewController::createThumbNailForPath(const QString &path, double width,
@@ -524,12 +572,19 @@ void BRDuplicateFilesViewController::showPopOverView(int row)
     controller->setKey(key);
     controller->setScanStatus(m_results->scanStatus());
     controller->setFilePaths(record->filePath);
+    controller->setSameFileRows(HardLinks::sameFileAs(*record));
+    for (const QString &path : record->filePath) {
+        if (m_removal->isPending(path))
+            controller->setChecking(path, true);
+    }
     controller->setFileInfo(key, {record->fileName, record->fileType, record->fileSize});
     controller->showPreview(QUrl::fromLocalFile(record->filePath.constFirst()));
     controller->setFileNameAndReloadData(record->fileName);
 
     auto *popover = new RowAnchoredPopover(controller, this);
     m_popover = popover;
+    // Checks of copies the user can no longer see are given up; nothing moves.
+    connect(popover, &RowAnchoredPopover::closed, m_removal, &CopyRemoval::stopChecks);
     const QRect rowRect = m_duplicateTableView->visualRect(m_model->index(row));
     popover->showRelativeToRect(rowRect, m_duplicateTableView->viewport(), Qt::RightEdge);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BRDuplicateFilesViewDelegate.h"
+#include "CopyRemoval.h"
 #include "WindowDelegate.h"
 
 #include <QPointer>
@@ -85,6 +86,9 @@ public:
     // After a fade: drops everything and goes back to the start screen.
     void cancelScanAndStartNewScan();
 
+    // A copy is being checked before it goes to the Trash.
+    bool isRemovingCopies() const;
+
     DuplicateResults &results() { return *m_results; }
     const DuplicateResults &results() const { return *m_results; }
     BRDuplicateFilePreviewViewController *previewDelegate() const;
@@ -103,6 +107,8 @@ private:
     void scanFoundNothing();
     void pollScanProgress();
     bool removeFileAtPath(const QString &path, const QString &key);
+    void removalFinished(const CopyRemoval::Result &result);
+    void copyWentToTrash(const QString &key, const QString &path);
     void showDuplicateStatusView();
     void showTotals(qint64 duplicateCount, qint64 reclaimableBytes);
     void setTotalSizeOfDuplicate(qint64 bytes);
@@ -115,6 +121,7 @@ private:
     ApplicationStatus *m_appDelegateTarget;
     // Created first, so that it goes first and takes the list's model with it.
     DuplicateResults *m_results;
+    CopyRemoval *m_removal;
     ThumbnailLoader *m_thumbnails;
     QTimer *m_progressTimer;
     Timings m_timings;

@@ -1,6 +1,7 @@
 #include "DuplicateResults.h"
 
 #include "GroupOrdering.h"
+#include "HardLinks.h"
 #include "ResultsLog.h"
 #include "ScanSession.h"
 #include "WorkerTask.h"
@@ -102,6 +103,7 @@ void DuplicateResults::applyReport(quint64 generation, const ScanReport &report)
     const QString &key = report.key;
     const qint64 totalDuplicates = report.totalDuplicates;
     m_dictOfDupeFiles = report.groups;
+    noteLinkedCopies(key);
     m_allDataRecords.valid = false;
     if (!m_allDataKeysValid) {
         m_allDataKeys = QSet<QString>(m_allData.cbegin(), m_allData.cend());
@@ -148,6 +150,9 @@ void DuplicateResults::clear()
     m_index = 0;
     m_totaldupes = 0;
     m_totalDupesSize = 0;
+    m_linkedBytes.clear();
+    m_linkedBytesTotal = 0;
+    m_reclaimableBytes = 0;
     m_session.reset();
     m_selectedSortType.reset();
     m_nameKeys = NameSortKeys();
@@ -212,7 +217,23 @@ void DuplicateResults::reloadRowForKey(const QString &key)
 
 void DuplicateResults::updateFileCountAndSize(qint64 count)
 {
-    Q_EMIT totalsChanged(count, m_totalDupesSize);
+    m_reclaimableBytes = m_totalDupesSize - m_linkedBytesTotal;
+    Q_EMIT totalsChanged(count, m_reclaimableBytes);
+}
+
+void DuplicateResults::noteLinkedCopies(const QString &key)
+{
+    const GroupRecord *record = m_dictOfDupeFiles.find(key);
+    const qint64 linked =
+        record ? record->totalSize - record->fileSize - HardLinks::reclaimableBytes(*record) : 0;
+    const qint64 before = m_linkedBytes.value(key, 0);
+    if (linked == before)
+        return;
+    m_linkedBytesTotal += linked - before;
+    if (linked == 0)
+        m_linkedBytes.remove(key);
+    else
+        m_linkedBytes.insert(key, linked);
 }
 
 void DuplicateResults::checkSearchActiveAndReloadTableView()
@@ -460,10 +481,12 @@ qsizetype DuplicateResults::removeCopy(const QString &key, const QString &path)
 
 void DuplicateResults::recountAfterRemoval()
 {
-    if (m_scanStatus)
+    if (m_scanStatus) {
         countTotals();
-    else
-        Q_EMIT reclaimableBytesChanged(m_totalDupesSize);
+    } else {
+        m_reclaimableBytes = m_totalDupesSize - m_linkedBytesTotal;
+        Q_EMIT reclaimableBytesChanged(m_reclaimableBytes);
+    }
 }
 
 void DuplicateResults::dropVanishedCopy(const QString &key, const QString &path)
@@ -508,6 +531,7 @@ void DuplicateResults::updateDictionaryDataForKey(const QString &key, const QStr
     if (indexed)
         m_records.replace(key, m_dictOfDupeFiles);
     patchRecord(key, m_dictOfDupeFiles.find(key));
+    noteLinkedCopies(key);
     m_totalDupesSize -= fileSize;
     // A running scan goes on from what the user left: a later copy joins the smaller group.
     if (m_session)
@@ -522,6 +546,7 @@ void DuplicateResults::removeValuesForKeyFromDataSource(const QString &key)
     const bool indexed = m_records.isBuiltFor(m_dictOfDupeFiles);
     patchRecord(key, nullptr);
     m_dictOfDupeFiles.remove(key);
+    noteLinkedCopies(key);
     if (indexed)
         m_records.remove(key, m_dictOfDupeFiles);
     m_keysOfAll.removeAll(key);
@@ -558,15 +583,18 @@ void DuplicateResults::countTotals()
 {
     m_totaldupes = 0;
     m_totalDupesSize = 0;
+    m_reclaimableBytes = 0;
     // The list's records, in one pass without lookups.
     for (const GroupRecord *record : listRecordsFor(checkSearchActiveAndGetData())->records) {
         if (!record)
             continue;
         m_totaldupes += record->filePath.size();
-        // Deleting all but one copy of each group frees this much.
+        // Deleting all but one copy of each group frees this much; a second name of one
+        // file frees nothing.
         m_totalDupesSize += record->totalSize - record->fileSize;
+        m_reclaimableBytes += HardLinks::reclaimableBytes(*record);
     }
-    Q_EMIT totalsChanged(m_totaldupes, m_totalDupesSize);
+    Q_EMIT totalsChanged(m_totaldupes, m_reclaimableBytes);
 }
 
 void DuplicateResults::reloadData(bool appendedOnly)

@@ -10,6 +10,7 @@
 #include "SubType.h"
 #include "SubTypeFilter.h"
 
+#include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QSet>
@@ -109,6 +110,9 @@ public:
     qsizetype rowOnScreen(const QString &key) const;
     qint64 totaldupes() const { return m_totaldupes; }
     qint64 totalDupesSize() const { return m_totalDupesSize; }
+    // What the totals show as reclaimable: as totalDupesSize, less the copies that are
+    // only further names of a file listed already (hard links), which free nothing.
+    qint64 reclaimableBytes() const { return m_reclaimableBytes; }
     qsizetype index() const { return m_index; }
     std::optional<SortOrder> selectedSortType() const { return m_selectedSortType; }
     std::optional<SubType> selectedSubType() const { return m_selectedSubType; }
@@ -157,6 +161,8 @@ private:
     void stopScan();
     void reloadRowForKey(const QString &key);
     void updateFileCountAndSize(qint64 count);
+    // Keeps the bytes of a group's hard-linked copies up to date after it changed.
+    void noteLinkedCopies(const QString &key);
     void checkSearchActiveAndReloadTableView();
     void removeAllFromDataSource();
     void sortSubTypes(SubType subType);
@@ -206,6 +212,10 @@ private:
     qsizetype m_index = 0;
     qint64 m_totaldupes = 0;
     qint64 m_totalDupesSize = 0;
+    qint64 m_reclaimableBytes = 0;
+    // Per group, the bytes its hard-linked copies add to totalDupesSize; few groups have any.
+    QHash<QString, qint64> m_linkedBytes;
+    qint64 m_linkedBytesTotal = 0;
     std::optional<SortOrder> m_selectedSortType;
     std::optional<SubType> m_selectedSubType;
 

@@ -102,7 +102,7 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
             const QString folderType = FileTypeDatabase::folderDescription();
             if (!m_fileDict.contains(parent))
                 m_fileDict.insert(parent, FolderRecord{});
-            StackEntry folderEntry{name, entryPath, 0, folderType};
+            StackEntry folderEntry{name, entryPath, 0, folderType, entry->stamp};
             // A path that does not contain the previous folder's path has left it: close
             // what is open above this folder's parent first.
             if (previousFolderPath && !pathContains(entryPath, *previousFolderPath)) {
@@ -202,7 +202,8 @@ void BRDuplicateFinderClass::checkForDuplicateFile(const DirectoryEntry &entry, 
     const QString bucketKey = QString::number(fileSize) + type.description;
     const auto bucket = m_dict.constFind(bucketKey);
     if (bucket == m_dict.constEnd()) {
-        storeBucket(fileSize, type.description, fileName, {filePath}, bucketKey);
+        storeBucket(fileSize, type.description, fileName, {filePath}, bucketKey,
+                    {PathStamp{filePath, entry.stamp}});
         return;
     }
     QStringList paths = bucket->filePath;
@@ -218,15 +219,17 @@ void BRDuplicateFinderClass::checkForDuplicateFile(const DirectoryEntry &entry, 
         return;
 
     paths.append(filePath);
+    PathStamps stamps = bucket->stamps;
+    stamps.append(PathStamp{filePath, entry.stamp});
     m_totalDupesSize += fileSize;
-    storeBucket(fileSize, type.description, fileName, paths, bucketKey);
+    storeBucket(fileSize, type.description, fileName, paths, bucketKey, stamps);
 
     const QString groupKey = bucketKey + candidate.fileHash;
     if (const GroupRecord *group = m_dictOfDupeFiles.find(groupKey)) {
         const GroupRecord joined = *group;
         updateDictOfDupeFiles(groupKey, fileSize, type.description, joined.fileName, paths,
                               bucketKey, joined.thumbNail, joined.fileUTI,
-                              joined.totalSize + fileSize);
+                              joined.totalSize + fileSize, stamps);
         m_totalDupes += 1;
     } else {
         if (type.identifier.isEmpty())
@@ -236,7 +239,7 @@ void BRDuplicateFinderClass::checkForDuplicateFile(const DirectoryEntry &entry, 
             filePath, thumbnailSide, thumbnailSide, m_thumbnails);
         m_totalDupes += paths.size();
         updateDictOfDupeFiles(groupKey, fileSize, type.description, fileName, paths, bucketKey,
-                              thumbnail, type.identifier, total);
+                              thumbnail, type.identifier, total, stamps);
     }
     if (!cancelActive())
         report(locker, false, groupKey);
@@ -268,16 +271,18 @@ void BRDuplicateFinderClass::closeFolders(const QString &parentPath, const QStri
         // A folder below the top holds everything closed above it in this call.
         if (i < top)
             entry.size = runningTotal;
-        checkForDuplicateFolder(entry.name, entry.type, path, entry.size, lastFilePath);
+        checkForDuplicateFolder(entry, lastFilePath);
     }
     addSizeToCurrentFolder(runningTotal);
 }
 
-void BRDuplicateFinderClass::checkForDuplicateFolder(const QString &folderName,
-                                                     const QString &folderType,
-                                                     const QString &folderPath, qint64 folderSize,
+void BRDuplicateFinderClass::checkForDuplicateFolder(const StackEntry &folder,
                                                      const QString &lastFilePath)
 {
+    const QString &folderName = folder.name;
+    const QString &folderType = folder.type;
+    const QString &folderPath = folder.path;
+    const qint64 folderSize = folder.size;
     const auto found = m_fileDict.find(folderPath);
     if (found == m_fileDict.end())
         return;
@@ -310,7 +315,8 @@ void BRDuplicateFinderClass::checkForDuplicateFolder(const QString &folderName,
     QMutexLocker locker(&m_tablesMutex);
     const auto bucket = m_dict.constFind(key);
     if (bucket == m_dict.constEnd()) {
-        storeBucket(folderSize, folderType, folderName, {folderPath}, key);
+        storeBucket(folderSize, folderType, folderName, {folderPath}, key,
+                    {PathStamp{folderPath, folder.stamp}});
         return;
     }
 
@@ -318,21 +324,23 @@ void BRDuplicateFinderClass::checkForDuplicateFolder(const QString &folderName,
     const qint64 storedSize = bucket->fileSize;
     QStringList paths = bucket->filePath;
     paths.append(folderPath);
+    PathStamps stamps = bucket->stamps;
+    stamps.append(PathStamp{folderPath, folder.stamp});
     m_totalDupesSize += storedSize;
-    storeBucket(storedSize, folderType, folderName, paths, key);
+    storeBucket(storedSize, folderType, folderName, paths, key, stamps);
     const qint64 total = paths.size() * storedSize;
 
     if (const GroupRecord *group = m_dictOfDupeFiles.find(key)) {
         const GroupRecord joined = *group;
         updateDictOfDupeFiles(key, storedSize, folderType, joined.fileName, paths, key,
-                              joined.thumbNail, folderType, total);
+                              joined.thumbNail, folderType, total, stamps);
         m_totalDupes += 1;
     } else {
         m_totalDupes += paths.size();
         const Thumbnail thumbnail = m_methodClass.deferredThumbnailForPath(
             folderPath, thumbnailSide, thumbnailSide, m_thumbnails);
         updateDictOfDupeFiles(key, storedSize, folderType, folderName, paths, key, thumbnail,
-                              folderType, total);
+                              folderType, total, stamps);
     }
     if (!cancelActive())
         report(locker, false, key);
@@ -343,25 +351,29 @@ void BRDuplicateFinderClass::updateDict(qint64 fileSize, const QString &fileType
                                         const QString &key)
 {
     QMutexLocker locker(&m_tablesMutex);
-    storeBucket(fileSize, fileType, fileName, filePaths, key);
+    storeBucket(fileSize, fileType, fileName, filePaths, key, stampsOfBucket(key));
 }
 
 void BRDuplicateFinderClass::storeBucket(qint64 fileSize, const QString &fileType,
                                          const QString &fileName, const QStringList &filePaths,
-                                         const QString &key)
+                                         const QString &key, const PathStamps &stamps)
 {
-    m_dict.insert(key, BucketRecord{fileSize, fileType, fileName, filePaths});
+    m_dict.insert(key, BucketRecord{fileSize, fileType, fileName, filePaths, stamps});
 }
 
-void BRDuplicateFinderClass::updateDictOfDupeFiles(const QString &key, qint64 fileSize,
-                                                   const QString &fileType, const QString &fileName,
-                                                   const QStringList &filePaths,
-                                                   const QString &oldKey,
-                                                   const Thumbnail &thumbNail,
-                                                   const QString &fileUTI, qint64 totalSize)
+PathStamps BRDuplicateFinderClass::stampsOfBucket(const QString &key) const
+{
+    const auto bucket = m_dict.constFind(key);
+    return bucket == m_dict.constEnd() ? PathStamps() : bucket->stamps;
+}
+
+void BRDuplicateFinderClass::updateDictOfDupeFiles(
+    const QString &key, qint64 fileSize, const QString &fileType, const QString &fileName,
+    const QStringList &filePaths, const QString &oldKey, const Thumbnail &thumbNail,
+    const QString &fileUTI, qint64 totalSize, const PathStamps &stamps)
 {
     m_dictOfDupeFiles.insert(key, GroupRecord{fileName, fileSize, fileType, filePaths, oldKey,
-                                              thumbNail, fileUTI, totalSize});
+                                              thumbNail, fileUTI, totalSize, stamps});
 }
 
 void BRDuplicateFinderClass::report(QMutexLocker<QMutex> &locker, bool completeStatus,
@@ -394,7 +406,7 @@ void BRDuplicateFinderClass::applyDeletion(qint64 totalDupesSize, const GroupMap
     QMutexLocker locker(&m_tablesMutex);
     m_totalDupesSize = totalDupesSize;
     m_dictOfDupeFiles = groups;
-    storeBucket(fileSize, fileType, fileName, filePaths, bucketKey);
+    storeBucket(fileSize, fileType, fileName, filePaths, bucketKey, stampsOfBucket(bucketKey));
 }
 
 BRDuplicateFinderClass::Progress BRDuplicateFinderClass::progress() const

@@ -87,16 +87,16 @@ private:
     void checkForDuplicateFile(const DirectoryEntry &entry, qint64 fileSize,
                                const QString &filePath);
     void closeFolders(const QString &parentPath, const QString &lastFilePath);
-    void checkForDuplicateFolder(const QString &folderName, const QString &folderType,
-                                 const QString &folderPath, qint64 folderSize,
-                                 const QString &lastFilePath);
+    void checkForDuplicateFolder(const StackEntry &folder, const QString &lastFilePath);
     // Both writers expect the tables lock to be held.
     void storeBucket(qint64 fileSize, const QString &fileType, const QString &fileName,
-                     const QStringList &filePaths, const QString &key);
+                     const QStringList &filePaths, const QString &key, const PathStamps &stamps);
+    // A bucket rewritten from outside keeps the stamps the walk took.
+    PathStamps stampsOfBucket(const QString &key) const;
     void updateDictOfDupeFiles(const QString &key, qint64 fileSize, const QString &fileType,
                                const QString &fileName, const QStringList &filePaths,
                                const QString &oldKey, const Thumbnail &thumbNail,
-                               const QString &fileUTI, qint64 totalSize);
+                               const QString &fileUTI, qint64 totalSize, const PathStamps &stamps);
     void recordFileInFolder(const QString &parent, const DirectoryEntry &file);
     VideoHash fingerprintOf(const DirectoryEntry &file);
     void takeFirstHash(FolderRecord &record);

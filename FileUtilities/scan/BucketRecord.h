@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PathStamp.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -10,4 +12,5 @@ struct BucketRecord
     QString fileType;     // the type text
     QString fileName;     // name of the entry that wrote the record last
     QStringList filePath; // oldest first; element 0 is the reference copy
+    PathStamps stamps;    // how the walk saw each of them
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PathStamp.h"
 #include "Thumbnail.h"
 
 #include <QString>
@@ -16,4 +17,6 @@ struct GroupRecord
     Thumbnail thumbNail;  // picture of the entry that formed the group, made when first shown
     QString fileUTI;      // type identifier of a file; the type text for a folder
     qint64 totalSize = 0; // all copies together, the first included
+    // How the walk saw each copy; a path may outlive its copy here, which costs nothing.
+    PathStamps fileStamps;
 };

@@ -25,8 +25,8 @@ struct List
     // Posts the group's report; it is applied when the event loop next runs.
     void post(const QString &name, const QString &uti = u"image/jpeg"_s)
     {
-        GroupRecord record{name, 10, u"JPEG image"_s, {u"/a/"_s + name, u"/b/"_s + name}, name, {},
-                           uti,  20};
+        GroupRecord record{
+            name, 10, u"JPEG image"_s, {u"/a/"_s + name, u"/b/"_s + name}, name, {}, uti, 20, {}};
         groups.insert(name, record);
         duplicates += 2;
         results.postReport({groups, name, false, duplicates, duplicates / 2 * 10});

@@ -220,6 +220,7 @@ private Q_SLOTS:
         screen.workspace.trashError = trashError;
 
         screen.view.updateAfterDelete(1, QStringLiteral("song"));
+        QTRY_VERIFY(!screen.view.isRemovingCopies());
         settle();
         const GroupRecord *after = screen.view.results().groups().find(u"song"_s);
         QCOMPARE(after->filePath.size(), copiesLeft);

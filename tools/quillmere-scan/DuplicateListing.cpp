@@ -2,6 +2,7 @@
 
 #include "ByteCountFormatter.h"
 #include "GroupOrdering.h"
+#include "HardLinks.h"
 
 QString DuplicateListing::sizeText(qint64 bytes)
 {
@@ -14,17 +15,25 @@ QByteArray DuplicateListing::format(const GroupMap &groups, const QStringList &k
     // The results screen's "Size" order: largest first, equal sizes in discovery order, so
     // the listing is reproducible.
     QString out;
+    qint64 reclaimable = totalDupesSize;
     for (const QString &key : GroupOrdering::sortedKeys(SortOrder::Size, keys, groups)) {
         const GroupRecord &group = *groups.find(key);
+        // A second name of a file frees nothing when it goes.
+        reclaimable -= group.totalSize - group.fileSize - HardLinks::reclaimableBytes(group);
+        const QList<int> sameFileAs = HardLinks::sameFileAs(group);
         out += group.fileName + QStringLiteral(" (") + group.fileType + QStringLiteral("): ") +
                QString::number(group.filePath.size()) + QStringLiteral(" copies of ") +
                sizeText(group.fileSize) + QStringLiteral(", ") + sizeText(group.totalSize) +
                QStringLiteral(" in all\n");
-        for (const QString &path : group.filePath)
-            out += QStringLiteral("  ") + path + u'\n';
+        for (qsizetype row = 0; row < group.filePath.size(); ++row) {
+            out += QStringLiteral("  ") + group.filePath.at(row);
+            if (sameFileAs.at(row) >= 0)
+                out += QStringLiteral(" (same file as %1)").arg(sameFileAs.at(row) + 1);
+            out += u'\n';
+        }
         out += u'\n';
     }
     out += QString::number(totalDuplicates) + QStringLiteral(" duplicate files, ") +
-           sizeText(totalDupesSize) + QStringLiteral(" reclaimable\n");
+           sizeText(reclaimable) + QStringLiteral(" reclaimable\n");
     return out.toUtf8();
 }
