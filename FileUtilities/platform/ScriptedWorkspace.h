@@ -4,8 +4,11 @@
 
 #include <QStringList>
 
+#include <functional>
+
 // Records what would have been opened, shown or trashed, for tests; trashing succeeds
-// unless `trashError` is set, and touches no file.
+// unless `trashError` is set, and touches no file. Trashing may be asked from a worker
+// thread; `beforeTrash` runs there first, so a test can hold it.
 class ScriptedWorkspace final : public Workspace
 {
 public:
@@ -13,6 +16,7 @@ public:
     QStringList selectedFiles;
     QStringList trashedPaths;
     QString trashError;
+    std::function<void(const QString &)> beforeTrash;
 
     bool openURL(const QUrl &url) override
     {
@@ -26,6 +30,8 @@ public:
     }
     TrashResult moveToTrash(const QString &path) override
     {
+        if (beforeTrash)
+            beforeTrash(path);
         if (!trashError.isEmpty())
             return TrashResult{false, QString(), trashError};
         trashedPaths.append(path);

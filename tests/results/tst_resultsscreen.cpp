@@ -1,4 +1,6 @@
 #include "ApplicationStatus.h"
+#include "BRDuplicateFilePreviewTableViewCell.h"
+#include "BRDuplicateFilePreviewViewController.h"
 #include "BRDuplicateFilesMainViewController.h"
 #include "BRDuplicateFilesViewController.h"
 #include "BRDuplicateScanStatusViewController.h"
@@ -17,9 +19,15 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSemaphore>
 #include <QTest>
+#include <QToolButton>
 
 #include <memory>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -235,6 +243,148 @@ private Q_SLOTS:
         }
         QCOMPARE(screen.label("totalFilesCountLabel"), countLabel);
         QCOMPARE(screen.label("totalDupesSizeLabel"), sizeLabel);
+    }
+
+    // A copy that is not provably a copy stays where it is, with the group and the totals,
+    // and the alert says why. Moving it away unchecked would lose the only copy of data.
+    void copiesNotProvenStay_data()
+    {
+        QTest::addColumn<QString>("setup");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("written since the scan")
+            << u"rewrite"_s << u"\u201Ctwo.bin\u201D has changed since the scan, so it was kept."_s;
+        QTest::newRow("the last real copy")
+            << u"remove others"_s
+            << u"\u201Ctwo.bin\u201D is the last copy left in this group, so it was kept."_s;
+        QTest::newRow("differs in the middle only")
+            << u"middle"_s
+            << u"\u201Ctwo.bin\u201D is not an exact copy of the other files in this group, so it "
+               u"was kept."_s;
+        QTest::newRow("a folder copy with one more hidden file")
+            << u"folders"_s
+            << u"\u201Ctwo.bin\u201D is not an exact copy of the other files in this group, so it "
+               u"was kept."_s;
+    }
+    void copiesNotProvenStay()
+    {
+        QFETCH(QString, setup);
+        QFETCH(QString, text);
+        TestDir dir;
+        const qint64 size = 300000;
+        QByteArray bytes = TestDir::pattern(size, 5);
+        QStringList paths;
+        for (const char *name : {"one.bin", "two.bin", "three.bin"}) {
+            if (setup == u"folders") {
+                paths.append(dir.createDir(QString::fromLatin1(name)));
+                dir.createFile(QString::fromLatin1(name) + u"/data"_s, bytes);
+            } else {
+                paths.append(dir.createFile(QString::fromLatin1(name), bytes));
+            }
+        }
+        if (setup == u"middle") {
+            bytes[size / 2] = static_cast<char>(bytes[size / 2] + 1);
+            dir.createFile(u"one.bin"_s, bytes);
+            dir.createFile(u"three.bin"_s, bytes);
+        } else if (setup == u"folders") {
+            // Hidden files are never walked, so the scan took these folders as equal.
+            dir.createFile(u"two.bin/.notes"_s, "mine alone");
+        }
+        Screen screen;
+        screen.startScan();
+        screen.report(group(u"two.bin"_s, size, u"application/octet-stream"_s, paths), 3);
+        screen.finish(3);
+        screen.alerts.shown.clear();
+        if (setup == u"rewrite") {
+            dir.createFile(u"two.bin"_s, bytes);
+            struct stat status = {};
+            QVERIFY(::stat(QFile::encodeName(paths[1]).constData(), &status) == 0);
+            timespec times[2] = {status.st_atim, status.st_mtim};
+            times[1].tv_sec += 10; // a write after the scan
+            QVERIFY(::utimensat(AT_FDCWD, QFile::encodeName(paths[1]).constData(), times, 0) == 0);
+        } else if (setup == u"remove others") {
+            QVERIFY(QFile::remove(paths[0]) && QFile::remove(paths[2]));
+        }
+
+        screen.view.updateAfterDelete(1, u"two.bin"_s);
+        QTRY_VERIFY(!screen.view.isRemovingCopies());
+        settle();
+        QVERIFY(screen.workspace.trashedPaths.isEmpty());
+        QVERIFY(QFileInfo::exists(paths[1]));
+        QCOMPARE(screen.view.results().groups().find(u"two.bin"_s)->filePath, paths);
+        QCOMPARE(screen.label("totalFilesCountLabel"), u"3"_s);
+        QCOMPARE(screen.alerts.shown.size(), 1);
+        QCOMPARE(screen.alerts.shown[0].title, u"Could not remove some files"_s);
+        QCOMPARE(screen.alerts.shown[0].text, text);
+    }
+
+    // While a copy is compared its row says so and offers no second press; when it has
+    // gone the row leaves, and closing the popover gives up a check still running.
+    void theDetailShowsACopyBeingChecked()
+    {
+        TestDir dir;
+        QStringList paths;
+        for (const char *name : {"a.bin", "b.bin"})
+            paths.append(dir.createPatternFile(QString::fromLatin1(name), 100000, 1));
+        Screen screen;
+        QSemaphore entered, gate;
+        screen.workspace.beforeTrash = [&](const QString &) {
+            entered.release();
+            gate.acquire();
+        };
+        screen.startScan();
+        screen.report(group(u"a.bin"_s, 100000, u"application/octet-stream"_s, paths), 2);
+        screen.finish(2);
+        screen.view.showPopOverView(0);
+        BRDuplicateFilePreviewViewController *detail = screen.view.previewDelegate();
+        QVERIFY(detail);
+
+        QTest::mouseClick(detail->cellAt(1)->deleteButton(), Qt::LeftButton);
+        QVERIFY(entered.tryAcquire(1, 5000));
+        BRDuplicateFilePreviewTableViewCell *cell = detail->cellAt(1);
+        QVERIFY(cell->isChecking());
+        QVERIFY(cell->checkingLabel()->isVisibleTo(detail));
+        QCOMPARE(cell->checkingLabel()->text(), u"Checking\u2026"_s);
+        QVERIFY(!cell->deleteButton()->isVisibleTo(detail));
+        screen.view.updateAfterDelete(1, u"a.bin"_s); // a second press
+        gate.release();
+        QTRY_VERIFY(!screen.view.isRemovingCopies());
+        QCOMPARE(screen.workspace.trashedPaths, QStringList{paths[1]});
+        QTRY_COMPARE(detail->numberOfRowsInTableView(), 1);
+    }
+
+    // Two names of one file are one file: the popover says so, and the totals do not
+    // count it as space to win.
+    void hardLinksAreMarkedAndNotCountedTwice()
+    {
+        TestDir dir;
+        const QString a = dir.createPatternFile(u"a.bin"_s, 100000, 1);
+        const QString b = dir.createPatternFile(u"b.bin"_s, 100000, 1);
+        const QString c = dir.filePath(u"c.bin"_s);
+        QVERIFY(::link(QFile::encodeName(a).constData(), QFile::encodeName(c).constData()) == 0);
+        Screen screen;
+        screen.startScan();
+        screen.view.updateDuplicateFiles(
+            {{}, u"a.bin"_s, false, 0, 0}); // nothing yet: the label starts from a report
+        GroupRecord record = group(u"a.bin"_s, 100000, u"application/octet-stream"_s, {a, b, c});
+        screen.groups.insert(record.oldKey, record);
+        screen.view.updateDuplicateFiles({screen.groups, record.oldKey, false, 10, 200000});
+        settle();
+        // During the scan the engine's figure, less the second name.
+        QCOMPARE(screen.view.results().reclaimableBytes(), 100000);
+        screen.finish(3);
+        QCOMPARE(screen.label("totalDupesSizeLabel"), u"97.7 KiB"_s);
+        screen.view.showPopOverView(0);
+        BRDuplicateFilePreviewViewController *detail = screen.view.previewDelegate();
+        QVERIFY(!detail->cellAt(0)->sameFileLabel()->isVisibleTo(detail));
+        QVERIFY(!detail->cellAt(1)->sameFileLabel()->isVisibleTo(detail));
+        QVERIFY(detail->cellAt(2)->sameFileLabel()->isVisibleTo(detail));
+        QCOMPARE(detail->cellAt(2)->sameFileLabel()->text(), u"Same file as 1."_s);
+        // The first name goes (the other name keeps the file): the third row renumbers.
+        detail->cellAt(0)->deleteAction();
+        QTRY_VERIFY(!screen.view.isRemovingCopies());
+        QTRY_COMPARE(detail->numberOfRowsInTableView(), 2);
+        QVERIFY(!detail->cellAt(1)->sameFileLabel()->isVisibleTo(detail));
+        QCOMPARE(screen.label("totalDupesSizeLabel"), u"97.7 KiB"_s);
     }
 
     void vanishedCopiesLeaveTheGroupAndTheLastLeadsToTheStatusScreen()

@@ -3,7 +3,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+
 #include <QTest>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -113,6 +115,25 @@ private Q_SLOTS:
                  "{\"completeStatus\": true, \"key\": \"\", \"totalDuplicates\": 0, "
                  "\"totalDupesSize\": 0, \"groups\": {}}\n");
         QCOMPARE(scan({empty.path()}).out, "0 duplicate files, 0 bytes reclaimable\n");
+    }
+
+    // A second name of a file is listed as such and frees nothing; the JSON reports stay
+    // the engine's, which counts every path.
+    void hardLinksInTheListing()
+    {
+        TestDir links;
+        const QString a = links.createPatternFile(QStringLiteral("a.png"), 100000, 1);
+        links.createPatternFile(QStringLiteral("b.png"), 100000, 1);
+        QVERIFY(::link(QFile::encodeName(a).constData(),
+                       QFile::encodeName(links.filePath(QStringLiteral("c.png"))).constData()) ==
+                0);
+        QCOMPARE(QString::fromUtf8(scan({links.path()}).out),
+                 QStringLiteral("b.png (PNG image): 3 copies of 97.7 KiB, 293.0 KiB in all\n"
+                                "  @/a.png\n  @/b.png\n  @/c.png (same file as 1)\n\n"
+                                "3 duplicate files, 97.7 KiB reclaimable\n")
+                     .replace(u'@', links.path()));
+        QVERIFY(scan({QStringLiteral("--json"), links.path()})
+                    .out.contains("\"totalDuplicates\": 3, \"totalDupesSize\": 200000"));
     }
 };
 
