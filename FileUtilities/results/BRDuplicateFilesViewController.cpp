@@ -426,12 +426,14 @@ void BRDuplicateFilesViewController::removalFinished(const CopyRemoval::Result &
 {
     const QString &key = result.request.key;
     const QString &path = result.request.path;
-    const bool popoverShowsGroup = m_previewDelegate && m_previewDelegate->key() == key;
-    if (popoverShowsGroup)
+    if (result.outcome == CopyRemoval::Outcome::Trashed) {
+        copyWentToTrash(key, path); // its row leaves the popover
+        return;
+    }
+    if (m_previewDelegate && m_previewDelegate->key() == key)
         m_previewDelegate->setChecking(path, false);
     switch (result.outcome) {
     case CopyRemoval::Outcome::Trashed:
-        copyWentToTrash(key, path);
         return;
     case CopyRemoval::Outcome::Vanished:
         removeFileAtPath(path, key);

@@ -8,6 +8,8 @@
 
 #include "AppDelegate.h"
 #include "BRAboutWindowController.h"
+#include "BRDuplicateFilePreviewTableViewCell.h"
+#include "BRDuplicateFilePreviewViewController.h"
 #include "BRDuplicateFilesMainViewController.h"
 #include "BRDuplicateFilesViewController.h"
 #include "BRDuplicateFinderClass.h"
@@ -17,7 +19,10 @@
 #include "BRMainWindowController.h"
 #include "BRRenameTableView.h"
 #include "BRRenameViewController.h"
+#include "CopyRemoval.h"
 #include "DuplicateResults.h"
+#include "FreedesktopTrash.h"
+#include "QtAlertPresenter.h"
 #include "RenameNotificationCenter.h"
 #include "RowAnchoredPopover.h"
 #include "ScanThreads.h"
@@ -39,10 +44,12 @@
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QScreen>
+#include <QSemaphore>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
@@ -324,20 +331,20 @@ int main(int argc, char *argv[])
     AppDelegate appDelegate(alerts, settings);
     BRDuplicateFilesMainViewController *duplicates = nullptr;
     BRRenameViewController *renamer = nullptr;
-    BRMainWindowController window(
-        {appDelegate, alerts, panel, workspace, settings,
-         [&] {
-             duplicates =
-                 new BRDuplicateFilesMainViewController({alerts, panel, workspace, &appDelegate});
-             // No waiting for fades; the status screen comes as soon as a scan finds nothing.
-             duplicates->setTimings({0, 0, 100});
-             return duplicates;
-         },
-         [&] {
-             renamer = new BRRenameViewController({alerts, panel});
-             renamer->setFadeDuration(0);
-             return renamer;
-         }});
+    BRMainWindowController window({appDelegate, alerts, panel, workspace, settings,
+                                   [&] {
+                                       duplicates = new BRDuplicateFilesMainViewController(
+                                           {alerts, panel, workspace, &appDelegate});
+                                       // No waiting for fades; the status screen comes as soon as a
+                                       // scan finds nothing.
+                                       duplicates->setTimings({0, 0, 100});
+                                       return duplicates;
+                                   },
+                                   [&] {
+                                       renamer = new BRRenameViewController({alerts, panel});
+                                       renamer->setFadeDuration(0);
+                                       return renamer;
+                                   }});
     window.resize(960, 640);
     if (const QScreen *screen = window.screen())
         window.move(screen->availableGeometry().center() - window.rect().center());
@@ -420,6 +427,57 @@ int main(int argc, char *argv[])
     else
         ok = false;
     results->closePopOver();
+
+    // A copy being checked before it goes: the Trash holds it until the shot is taken.
+    {
+        QSemaphore entered;
+        QSemaphore gate;
+        workspace.beforeTrash = [&](const QString &) {
+            entered.release();
+            gate.acquire();
+        };
+        results->showPopOverView(0);
+        RowAnchoredPopover *popover = results->popover();
+        BRDuplicateFilePreviewViewController *detail = results->previewDelegate();
+        if (popover && detail && detail->numberOfRowsInTableView() > 1) {
+            detail->cellAt(1)->deleteButton()->click();
+            for (int wait = 0; wait < 500 && !entered.tryAcquire(); ++wait)
+                settle(10);
+            ok &= saveWithPopup(window, *popover, output, u"9b-duplicates-checking"_s);
+        } else {
+            ok = false;
+        }
+        gate.release();
+        while (results->isRemovingCopies())
+            settle(20);
+        workspace.beforeTrash = nullptr;
+        results->closePopOver();
+    }
+
+    // The alerts a removal can end in, as the desktop shows them.
+    {
+        const QString name = u"IMG_2043.jpg"_s;
+        const QList<std::pair<QString, QString>> removalAlerts{
+            {u"9c-alert-changed"_s, CopyRemoval::sentence(CopyRemoval::Outcome::Changed, name)},
+            {u"9d-alert-last-copy"_s, CopyRemoval::sentence(CopyRemoval::Outcome::LastCopy, name)},
+            {u"9e-alert-not-a-copy"_s, CopyRemoval::sentence(CopyRemoval::Outcome::NotACopy, name)},
+            {u"9f-alert-unreadable"_s,
+             CopyRemoval::sentence(CopyRemoval::Outcome::Unreadable, name)},
+            {u"9g-alert-no-trash"_s,
+             FreedesktopTrash::sentence(TrashFailure::NoTrashOnDrive, name)},
+            {u"9h-alert-disk-full"_s, FreedesktopTrash::sentence(TrashFailure::DiskFull, name)},
+        };
+        QtAlertPresenter presenter(&window);
+        for (const auto &[shot, text] : removalAlerts) {
+            QTimer::singleShot(300, [&, shot = shot] {
+                if (QWidget *box = QApplication::activeModalWidget()) {
+                    ok &= save(*box, output, shot);
+                    box->close();
+                }
+            });
+            presenter.runModal({u"Could not remove some files"_s, text, {u"OK"_s}});
+        }
+    }
 
     // A new scan, of a folder with nothing in it.
     results->sortViewController()->newScanButton()->click();
