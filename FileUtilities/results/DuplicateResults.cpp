@@ -1,5 +1,6 @@
 #include "DuplicateResults.h"
 
+#include "FileTypeDatabase.h"
 #include "GroupOrdering.h"
 #include "HardLinks.h"
 #include "ResultsLog.h"
@@ -8,8 +9,17 @@
 
 #include <QCoreApplication>
 
+namespace {
+
+constexpr int liveRefreshMs = 300;
+
+} // namespace
+
 DuplicateResults::DuplicateResults(QObject *parent) : QObject(parent)
 {
+    m_liveRefreshTimer.setSingleShot(true);
+    m_liveRefreshTimer.setInterval(liveRefreshMs);
+    connect(&m_liveRefreshTimer, &QTimer::timeout, this, &DuplicateResults::refreshLiveList);
     m_reloadTimer.setSingleShot(true);
     m_reloadTimer.setInterval(0);
     connect(&m_reloadTimer, &QTimer::timeout, this, [this] {
@@ -35,6 +45,7 @@ DuplicateResults::~DuplicateResults()
 
 void DuplicateResults::prepareScan()
 {
+    m_deletions.clear();
     m_scanStatus = false;
     m_selectedSortType = SortOrder::All;
 }
@@ -77,6 +88,7 @@ void DuplicateResults::applyReport(quint64 generation, const ScanReport &report)
     m_totalDupesSize = report.totalDupesSize;
 
     if (report.completeStatus && !report.groups.isEmpty()) {
+        m_liveRefreshTimer.stop();
         m_walkRunning = false;
         stopScan();
         m_scanStatus = true;
@@ -102,8 +114,22 @@ void DuplicateResults::applyReport(quint64 generation, const ScanReport &report)
         return;
     const QString &key = report.key;
     const qint64 totalDuplicates = report.totalDuplicates;
-    m_dictOfDupeFiles = report.groups;
+    if (report.deletionsSeen < static_cast<quint64>(m_deletions.size())) {
+        // Sent before a deletion arrived at the finder: what the user removed since must
+        // not come back.
+        GroupMap groups = report.groups;
+        repairStaleReport(report, groups, m_totalDupesSize);
+        m_dictOfDupeFiles = groups;
+    } else {
+        m_dictOfDupeFiles = report.groups;
+    }
     noteLinkedCopies(key);
+    if (!m_dictOfDupeFiles.find(key)) {
+        m_allDataRecords.valid = false;
+        return; // the group of this report is gone already
+    }
+    bool listShown = true;
+    bool countShown = false;
     m_allDataRecords.valid = false;
     if (!m_allDataKeysValid) {
         m_allDataKeys = QSet<QString>(m_allData.cbegin(), m_allData.cend());
@@ -122,12 +148,62 @@ void DuplicateResults::applyReport(quint64 generation, const ScanReport &report)
         if (totalDuplicates < 10) {
             reloadData(at == m_allData.size() - 1);
             updateFileCountAndSize(totalDuplicates);
+            countShown = true;
         } else if (totalDuplicates % 10 == 0) {
             reloadData(at == m_allData.size() - 1);
+        } else {
+            listShown = false;
+            m_liveRefreshAppendsOnly = m_liveRefreshAppendsOnly && at == m_allData.size() - 1;
         }
     }
-    if (!m_searchActive && totalDuplicates % 10 == 0)
+    if (!m_searchActive && totalDuplicates % 10 == 0) {
         updateFileCountAndSize(totalDuplicates);
+        countShown = true;
+    }
+    // The throttle above stays; what it holds back is shown within a moment all the same.
+    if (!listShown || (!countShown && !m_searchActive)) {
+        m_liveRefreshList = m_liveRefreshList || !listShown;
+        m_liveRefreshCount = totalDuplicates;
+        if (!m_liveRefreshTimer.isActive())
+            m_liveRefreshTimer.start();
+    }
+}
+
+void DuplicateResults::refreshLiveList()
+{
+    if (m_scanStatus)
+        return;
+    if (m_liveRefreshList)
+        reloadData(m_liveRefreshAppendsOnly);
+    if (!m_searchActive)
+        updateFileCountAndSize(m_liveRefreshCount);
+    m_liveRefreshList = false;
+    m_liveRefreshAppendsOnly = true;
+}
+
+void DuplicateResults::repairStaleReport(const ScanReport &report, GroupMap &groups,
+                                         qint64 &totalDupesSize) const
+{
+    totalDupesSize = report.totalDupesSize;
+    for (auto deletion = m_deletions.cbegin() + static_cast<qsizetype>(report.deletionsSeen);
+         deletion != m_deletions.cend(); ++deletion) {
+        const GroupRecord *found = groups.find(deletion->key);
+        if (!found)
+            continue;
+        if (deletion->paths.isEmpty()) {
+            totalDupesSize -= found->totalSize - found->fileSize;
+            groups.remove(deletion->key);
+            continue;
+        }
+        GroupRecord record = *found;
+        for (const QString &path : deletion->paths) {
+            if (record.filePath.removeAll(path) > 0) {
+                record.totalSize -= record.fileSize;
+                totalDupesSize -= record.fileSize;
+            }
+        }
+        groups.insert(deletion->key, std::move(record));
+    }
 }
 
 void DuplicateResults::stopScan()
@@ -141,6 +217,10 @@ void DuplicateResults::clear()
 {
     m_scanStatus = true;
     m_walkRunning = false;
+    m_liveRefreshTimer.stop();
+    m_liveRefreshList = false;
+    m_liveRefreshAppendsOnly = true;
+    m_deletions.clear();
     ++m_scanGeneration;
     if (m_session)
         m_session->finder().setCancelActive(true);
@@ -473,10 +553,46 @@ qsizetype DuplicateResults::removeCopy(const QString &key, const QString &path)
     const GroupRecord *record = m_dictOfDupeFiles.find(key);
     if (!record)
         return -1;
+    const std::optional<FileStamp> stamp = stampOf(record->fileStamps, path);
+    const bool folder =
+        stamp ? stamp->isFolder : record->fileType == FileTypeDatabase::folderDescription();
     QStringList remaining = record->filePath;
     remaining.removeAll(path);
     updateDictionaryDataForKey(key, remaining, record->totalSize - record->fileSize);
+    if (folder)
+        dropPathsUnder(path);
     return rowOnScreen(key);
+}
+
+void DuplicateResults::dropPathsUnder(const QString &folder)
+{
+    const QString inside = folder.endsWith(u'/') ? folder : folder + u'/';
+    QList<std::pair<QString, QStringList>> changed;
+    m_dictOfDupeFiles.forEach([&](const QString &key, const GroupRecord &record) {
+        if (std::none_of(record.filePath.cbegin(), record.filePath.cend(),
+                         [&inside](const QString &path) { return path.startsWith(inside); }))
+            return;
+        QStringList remaining;
+        for (const QString &path : record.filePath) {
+            if (!path.startsWith(inside))
+                remaining.append(path);
+        }
+        changed.append({key, remaining});
+    });
+    if (changed.isEmpty())
+        return;
+    for (const auto &[key, remaining] : std::as_const(changed)) {
+        const GroupRecord *record = m_dictOfDupeFiles.find(key);
+        if (!record)
+            continue;
+        const qint64 gone = record->filePath.size() - remaining.size();
+        if (remaining.isEmpty())
+            removeValuesForKeyFromDataSource(key);
+        else
+            updateDictionaryDataForKey(key, remaining, record->totalSize - gone * record->fileSize);
+    }
+    qCDebug(resultsLog).noquote() << changed.size() << "groups lost copies inside" << folder;
+    checkSortTypeAndSortData();
 }
 
 void DuplicateResults::recountAfterRemoval()
@@ -520,6 +636,11 @@ void DuplicateResults::updateDictionaryDataForKey(const QString &key, const QStr
     if (!found)
         return;
     GroupRecord record = *found;
+    QStringList removed;
+    for (const QString &path : record.filePath) {
+        if (!filePaths.contains(path))
+            removed.append(path);
+    }
     record.filePath = filePaths;
     record.totalSize = totalSize;
     const qint64 fileSize = record.fileSize;
@@ -532,15 +653,20 @@ void DuplicateResults::updateDictionaryDataForKey(const QString &key, const QStr
         m_records.replace(key, m_dictOfDupeFiles);
     patchRecord(key, m_dictOfDupeFiles.find(key));
     noteLinkedCopies(key);
-    m_totalDupesSize -= fileSize;
+    m_totalDupesSize -= fileSize * std::max<qsizetype>(1, removed.size());
     // A running scan goes on from what the user left: a later copy joins the smaller group.
-    if (m_session)
+    if (!m_scanStatus)
+        m_deletions.append({key, removed});
+    if (m_session) {
         m_session->finder().applyDeletion(m_totalDupesSize, m_dictOfDupeFiles, fileSize, fileType,
                                           fileName, filePaths, oldKey);
+    }
 }
 
 void DuplicateResults::removeValuesForKeyFromDataSource(const QString &key)
 {
+    if (!m_scanStatus)
+        m_deletions.append({key, {}});
     if (m_session)
         m_session->finder().removeGroup(key);
     const bool indexed = m_records.isBuiltFor(m_dictOfDupeFiles);

@@ -75,7 +75,8 @@ public:
     void search(const QString &query);
 
     // A copy was moved to the Trash: it leaves its group, and the totals lose its size.
-    // Gives the group's row on screen, or -1.
+    // A folder takes with it every path inside it, from every group. Gives the group's row
+    // on screen, or -1.
     qsizetype removeCopy(const QString &key, const QString &path);
     // Shows the totals after removeCopy. Once the scan has ended they are counted anew;
     // during a scan only the reclaimable size changes, and the count waits for the
@@ -158,6 +159,13 @@ private:
     static void postReport(QPointer<DuplicateResults> self, quint64 generation,
                            const ScanReport &report);
     void applyReport(quint64 generation, const ScanReport &report);
+    // Takes out of a report's groups what deletions made after it took away.
+    void repairStaleReport(const ScanReport &report, GroupMap &groups,
+                           qint64 &totalDupesSize) const;
+    // The list and the header, when the throttle left reports unshown for a while.
+    void refreshLiveList();
+    // Every path inside `folder` leaves every group; groups left with none go.
+    void dropPathsUnder(const QString &folder);
     void stopScan();
     void reloadRowForKey(const QString &key);
     void updateFileCountAndSize(qint64 count);
@@ -186,6 +194,20 @@ private:
     void prepareNameKeys();
 
     QTimer m_reloadTimer;
+    // While reports come in faster than the throttle shows them, the list and the header
+    // still move every so often.
+    QTimer m_liveRefreshTimer;
+    bool m_liveRefreshList = false;
+    bool m_liveRefreshAppendsOnly = true;
+    qint64 m_liveRefreshCount = 0;
+    // The deletions made while the scan runs, in order. Each is written into the finder,
+    // which counts them too, and a report tells how many it had seen.
+    struct Deletion
+    {
+        QString key;
+        QStringList paths; // none: the whole group went
+    };
+    QList<Deletion> m_deletions;
     bool m_reloadAppendsOnly = true;
     int m_reloadCount = 0;
 

@@ -379,8 +379,8 @@ void BRDuplicateFinderClass::updateDictOfDupeFiles(
 void BRDuplicateFinderClass::report(QMutexLocker<QMutex> &locker, bool completeStatus,
                                     const QString &key)
 {
-    const ScanReport snapshot{m_dictOfDupeFiles, key, completeStatus, m_totalDupes,
-                              m_totalDupesSize};
+    const ScanReport snapshot{
+        m_dictOfDupeFiles, key, completeStatus, m_totalDupes, m_totalDupesSize, m_deletionsSeen};
     locker.unlock();
     if (m_sink)
         m_sink->receive(snapshot);
@@ -406,6 +406,7 @@ void BRDuplicateFinderClass::applyDeletion(qint64 totalDupesSize, const GroupMap
     QMutexLocker locker(&m_tablesMutex);
     m_totalDupesSize = totalDupesSize;
     m_dictOfDupeFiles = groups;
+    ++m_deletionsSeen;
     storeBucket(fileSize, fileType, fileName, filePaths, bucketKey, stampsOfBucket(bucketKey));
 }
 
@@ -420,6 +421,7 @@ void BRDuplicateFinderClass::removeGroup(const QString &key)
     QMutexLocker locker(&m_tablesMutex);
     m_dict.remove(key);
     m_dictOfDupeFiles.remove(key);
+    ++m_deletionsSeen;
 }
 
 qint64 BRDuplicateFinderClass::totalDupes() const

@@ -60,6 +60,7 @@ public:
     // finish the file or folder it is matching.
     GroupMap dictOfDupeFiles() const;
     void setDictOfDupeFiles(const GroupMap &groups);
+    // Counted, as applyDeletion is: each report says how many it had taken in.
     void removeGroup(const QString &key);
     // The three writes of a deletion, made at once so that the scan never matches against
     // a half-updated group: the totals, the groups, then the group's bucket.
@@ -119,6 +120,7 @@ private:
     QString m_currentFolder;
     qint64 m_totalDupes = 0;
     qint64 m_totalDupesSize = 0;
+    quint64 m_deletionsSeen = 0; // applyDeletion and removeGroup calls, for the reports
     Stack<StackEntry> m_stackOfArray;
     BRObjectClass m_methodClass;
     OSHashAlgorithm m_oshash;

@@ -16,4 +16,7 @@ struct ScanReport
     bool completeStatus = false;
     qint64 totalDuplicates = 0; // every copy in every group
     qint64 totalDupesSize = 0;  // what deleting all but one copy of each group frees
+    // How many of the results' deletions the finder had taken in when it made this report:
+    // a report made before a deletion still holds what the deletion took away.
+    quint64 deletionsSeen = 0;
 };

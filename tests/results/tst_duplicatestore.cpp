@@ -230,6 +230,86 @@ private Q_SLOTS:
         QCOMPARE(store.results.removeCopy(u"gone"_s, u"/1"_s), -1);
     }
 
+    // One group of three copies and 49 pairs: the throttle shows the list at 9 and at
+    // multiples of ten only, so without more the last groups and counts would wait for the
+    // end of the scan.
+    void aListThatGrowsSteadily()
+    {
+        Store store;
+        store.startScan();
+        int rowsAnnounced = 0;
+        const auto announced = [&] {
+            rowsAnnounced = store.results.numberOfRows();
+        };
+        QObject::connect(&store.results, &DuplicateResults::rowsAppended, announced);
+        QObject::connect(&store.results, &DuplicateResults::listReset, announced);
+        store.report(group(u"g0"_s, 1, QString(), {u"/0/a"_s, u"/0/b"_s, u"/0/c"_s}), 3);
+        for (int i = 1; i < 50; ++i) {
+            const QString name = u"g"_s + QString::number(i);
+            store.report(group(name, 1, QString(), {u"/a/"_s + name, u"/b/"_s + name}), 3 + 2 * i);
+        }
+        QCOMPARE(store.results.allData().size(), 50);
+        QVERIFY(rowsAnnounced < 50);
+        QTRY_COMPARE(rowsAnnounced, 50);
+        QTRY_COMPARE(store.shownCount, u"101"_s);
+    }
+
+    // A report the finder made before it heard of a deletion arrives after it: the copy
+    // removed must not come back, and reports made since are taken as they are.
+    void aDeletionIsNeverUndoneByAnOlderReport()
+    {
+        Store store;
+        store.startScan();
+        const GroupRecord song = group(u"song"_s, 10, QString(), {u"/1"_s, u"/2"_s, u"/3"_s});
+        store.report(song, 3, 20);
+        store.results.removeCopy(u"song"_s, u"/2"_s);
+        const GroupMap before = store.groups; // still holds "/2"
+        store.report(group(u"late"_s, 5, QString(), {u"/x"_s, u"/y"_s}), 5, 25);
+        QCOMPARE(store.results.groups().find(u"song"_s)->filePath, (QStringList{u"/1"_s, u"/3"_s}));
+        QCOMPARE(store.results.groups().find(u"song"_s)->totalSize, 20);
+        QCOMPARE(store.results.totalDupesSize(), 15);
+
+        GroupMap after = before;
+        after.insert(u"song"_s, group(u"song"_s, 10, QString(), {u"/1"_s, u"/3"_s, u"/4"_s}));
+        store.results.postReport({after, u"song"_s, false, 6, 30, 1});
+        settle();
+        QCOMPARE(store.results.groups().find(u"song"_s)->filePath,
+                 (QStringList{u"/1"_s, u"/3"_s, u"/4"_s}));
+        QCOMPARE(store.results.totalDupesSize(), 30);
+    }
+
+    // A folder that goes to the Trash takes its contents with it: no group may go on naming
+    // a path inside it, or the last copy outside could be removed as a spare.
+    void aTrashedFolderTakesItsContentsOutOfEveryGroup()
+    {
+        Store store;
+        store.startScan();
+        GroupRecord folders = group(u"Holiday"_s, 300, QString(), {u"/A"_s, u"/B"_s});
+        folders.fileType = u"Folder"_s;
+        store.report(folders, 2, 300);
+        store.report(
+            group(u"x.jpg"_s, 100, QString(), {u"/A/x.jpg"_s, u"/B/x.jpg"_s, u"/C/x.jpg"_s}), 5,
+            500);
+        store.report(group(u"y.jpg"_s, 200, QString(), {u"/A/y.jpg"_s, u"/B/y.jpg"_s}), 7, 700);
+        store.report(group(u"z.jpg"_s, 50, QString(), {u"/AB/z.jpg"_s, u"/C/z.jpg"_s}), 9, 750);
+        store.finish(9);
+
+        store.results.removeCopy(u"Holiday"_s, u"/A"_s);
+        store.results.recountAfterRemoval();
+        QCOMPARE(store.results.groups().find(u"x.jpg"_s)->filePath,
+                 (QStringList{u"/B/x.jpg"_s, u"/C/x.jpg"_s}));
+        QCOMPARE(store.results.groups().find(u"x.jpg"_s)->totalSize, 200);
+        QCOMPARE(store.results.groups().find(u"y.jpg"_s)->filePath, QStringList{u"/B/y.jpg"_s});
+        QCOMPARE(store.results.groups().find(u"z.jpg"_s)->filePath.size(), 2); // not inside /A
+        QCOMPARE(store.shownCount, u"6"_s);
+        QCOMPARE(store.results.reclaimableBytes(), 100 + 50);
+
+        store.results.removeCopy(u"Holiday"_s, u"/B"_s);
+        QVERIFY(!store.results.groups().contains(u"y.jpg"_s));
+        QCOMPARE(store.results.groups().find(u"x.jpg"_s)->filePath, QStringList{u"/C/x.jpg"_s});
+        QVERIFY(!store.results.keysOfAll().contains(u"y.jpg"_s));
+    }
+
     void vanishedCopiesLeaveTheGroupAndTheLastTakesItAway()
     {
         Store store;
