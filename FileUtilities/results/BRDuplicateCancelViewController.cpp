@@ -107,6 +107,16 @@ void BRDuplicateCancelViewController::updateScanProgress(qint64 entriesScanned,
     elideCurrentFolder();
 }
 
+void BRDuplicateCancelViewController::showRemovalProgress(int done, int total)
+{
+    m_progressIndicator->setRange(0, qMax(1, total));
+    m_progressIndicator->setValue(done);
+    m_scannedCountLabel->setText(QStringLiteral("%1 of %2 copies checked").arg(done).arg(total));
+    m_currentFolder.clear();
+    m_currentFolderLabel->clear();
+    m_currentFolderLabel->setToolTip(QString());
+}
+
 void BRDuplicateCancelViewController::cancelAction()
 {
     if (m_duplicateFileViewDelegate)

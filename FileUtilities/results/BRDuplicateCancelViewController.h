@@ -25,6 +25,8 @@ public:
     void startAnimateProgress() override;
     void stopAnimateProgress() override;
     void updateScanProgress(qint64 entriesScanned, const QString &currentFolder) override;
+    // A run of removals instead of a scan: a bar that fills as the copies are checked.
+    void showRemovalProgress(int done, int total);
 
     bool isAnimating() const;
     // "12,345 items scanned", grouped the user's way (English grouping in the C locale).

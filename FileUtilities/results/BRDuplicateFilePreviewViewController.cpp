@@ -6,6 +6,7 @@
 #include "BRQuickLookItem.h"
 #include "ByteCountFormatter.h"
 #include "FilePreviewView.h"
+#include "KeepOneMenu.h"
 #include "Look.h"
 #include "UserLocale.h"
 
@@ -63,8 +64,16 @@ BRDuplicateFilePreviewViewController::BRDuplicateFilePreviewViewController(QWidg
     m_fileNameLabel->setObjectName(QStringLiteral("fileNameLabel"));
     Look::setTextStyle(m_fileNameLabel, 15, QFont::Bold, Look::Color::PrimaryText);
     m_fileNameLabel->setTextFormat(Qt::PlainText);
+    // Keeping one copy of this group: the button stands at the end of the title line.
+    m_keepOneButton = KeepOneMenu::makeButton(this, QStringLiteral("this group"), true,
+                                              [this](KeepOnePlan::Rule rule) {
+                                                  if (m_delegate && m_key)
+                                                      m_delegate->keepOneCopy(rule, {*m_key});
+                                              });
+    m_keepOneButton->hide();
     m_fileNameLabel->setFixedWidth(FilePreviewView::side + margin +
-                                   m_dupePreviewTableView->width());
+                                   m_dupePreviewTableView->width() -
+                                   m_keepOneButton->sizeHint().width() - margin);
 
     auto *body = new QHBoxLayout;
     body->setSpacing(margin);
@@ -73,7 +82,11 @@ BRDuplicateFilePreviewViewController::BRDuplicateFilePreviewViewController(QWidg
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, 14, margin, margin);
     layout->setSpacing(12);
-    layout->addWidget(m_fileNameLabel);
+    auto *title = new QHBoxLayout;
+    title->setSpacing(margin);
+    title->addWidget(m_fileNameLabel);
+    title->addWidget(m_keepOneButton, 0, Qt::AlignRight | Qt::AlignVCenter);
+    layout->addLayout(title);
     layout->addLayout(body);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
@@ -245,6 +258,8 @@ void BRDuplicateFilePreviewViewController::reloadData()
         cells.append(cell);
     }
     m_dupePreviewTableView->setRows(cells);
+    // Offered once the scan has ended, for a group with copies to spare.
+    m_keepOneButton->setVisible(m_scanStatus && m_filePaths.size() > 1);
 }
 
 BRDuplicateFilePreviewTableViewCell *BRDuplicateFilePreviewViewController::cellAt(int row) const

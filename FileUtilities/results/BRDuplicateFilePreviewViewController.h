@@ -17,6 +17,7 @@ class BRDuplicateFilesViewDelegate;
 class BRDuplicatePopOverTableView;
 class FilePreviewView;
 class QLabel;
+class QToolButton;
 
 // The inside of the detail popover of one group: a preview of the file beside the list of
 // all its copies, each with its path, size, date and a button that moves it to the Trash.
@@ -87,12 +88,14 @@ public:
     FilePreviewView *prevView() const { return m_prevView; }
     BRDuplicatePopOverTableView *dupePreviewTableView() const { return m_dupePreviewTableView; }
     QLabel *fileNameLabel() const { return m_fileNameLabel; }
+    QToolButton *keepOneButton() const { return m_keepOneButton; }
     BRDuplicateFilePreviewTableViewCell *cellAt(int row) const;
 
 private:
     QWidget *m_previewView;
     BRDuplicatePopOverTableView *m_dupePreviewTableView;
     QLabel *m_fileNameLabel;
+    QToolButton *m_keepOneButton;
     FilePreviewView *m_prevView;
     QHash<QString, FileInfo> m_fileInfo;
     bool m_scanStatus = false;

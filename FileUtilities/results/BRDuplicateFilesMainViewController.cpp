@@ -12,8 +12,8 @@
 BRDuplicateFilesMainViewController::BRDuplicateFilesMainViewController(const Services &services,
                                                                        QWidget *parent)
     : QWidget(parent), m_startScreen(new BRDuplicateScanStartViewController(services.openPanel)),
-      m_resultsScreen(new BRDuplicateFilesViewController(services.alerts, services.workspace,
-                                                         services.appDelegate)),
+      m_resultsScreen(new BRDuplicateFilesViewController(
+          services.alerts, services.workspace, services.appDelegate, &services.openPanel)),
       m_statusScreen(new BRDuplicateScanStatusViewController)
 {
     setObjectName(QStringLiteral("BRDuplicateFilesMainViewController"));

@@ -15,8 +15,10 @@
 #include "DuplicateResults.h"
 #include "DuplicateTableModel.h"
 #include "HardLinks.h"
+#include "KeepOneMenu.h"
 #include "Look.h"
 #include "LookStyleSheets.h"
+#include "OpenPanel.h"
 #include "ResultsLog.h"
 #include "RowAnchoredPopover.h"
 #include "ThumbnailLoader.h"
@@ -31,7 +33,9 @@
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <sys/stat.h>
@@ -60,11 +64,18 @@ QLabel *makeLabel(const QString &objectName, int pixelSize, QFont::Weight weight
 BRDuplicateFilesViewController::BRDuplicateFilesViewController(AlertPresenter &alerts,
                                                                Workspace &workspace,
                                                                ApplicationStatus *appDelegate,
+                                                               OpenPanel *openPanel,
                                                                QWidget *parent)
     : QWidget(parent), m_alerts(alerts), m_workspace(workspace), m_appDelegateTarget(appDelegate),
       m_results(new DuplicateResults(this)), m_removal(new CopyRemoval(workspace, this)),
+      m_openPanel(openPanel), m_batchRefreshTimer(new QTimer(this)),
       m_thumbnails(new ThumbnailLoader(this)), m_progressTimer(new QTimer(this))
 {
+    // A run of many removals shows its changes a few times a second, not once a copy.
+    m_batchRefreshTimer->setSingleShot(true);
+    m_batchRefreshTimer->setInterval(250);
+    connect(m_batchRefreshTimer, &QTimer::timeout, this,
+            &BRDuplicateFilesViewController::refreshAfterBatch);
     setObjectName(QStringLiteral("BRDuplicateFilesViewController"));
     buildScreen();
     connectResults();
@@ -143,6 +154,10 @@ void BRDuplicateFilesViewController::buildScreen()
     headerLayout->addSpacing(12);
     headerLayout->addLayout(totalColumn(m_totalDupesSizeLabel, QStringLiteral("Reclaimable")));
     headerLayout->addSpacing(20);
+    m_keepOneButton = KeepOneMenu::makeButton(
+        header, QStringLiteral("each group listed"), m_openPanel != nullptr,
+        [this](KeepOnePlan::Rule rule) { keepOneCopyOfGroupsOnScreen(rule); });
+    headerLayout->addWidget(m_keepOneButton);
     headerLayout->addWidget(m_searchField);
 
     // The model lives and dies with the results it reads.
@@ -309,6 +324,12 @@ void BRDuplicateFilesViewController::showDuplicateStatusView()
 
 void BRDuplicateFilesViewController::cancelScanProcess()
 {
+    // While copies are being removed, the bar's Stop stops that, without a question: what
+    // went is in the Trash and what is left stays.
+    if (isKeepingOne()) {
+        m_keepOneRun->stop();
+        return;
+    }
     const int answer = m_alerts.runModal(
         {QStringLiteral("Stop duplicate files scan?"),
          QStringLiteral("Duplicate files scan is in progress. Are you sure you want to stop "
@@ -365,6 +386,12 @@ void BRDuplicateFilesViewController::clearAll()
 {
     // A copy being checked stays where it is; one already moved is in the Trash. Either
     // way the groups it belonged to are gone.
+    if (m_keepOneRun) {
+        m_keepOneRun->disconnect(this);
+        m_keepOneRun->stop();
+        m_keepOneRun->deleteLater();
+    }
+    m_batchRefreshTimer->stop();
     m_removal->abandon();
     closePopOver();
     m_results->clear();
@@ -424,6 +451,10 @@ bool BRDuplicateFilesViewController::isRemovingCopies() const
 
 void BRDuplicateFilesViewController::removalFinished(const CopyRemoval::Result &result)
 {
+    if (result.request.batch != 0) {
+        batchRemovalFinished(result);
+        return;
+    }
     const QString &key = result.request.key;
     const QString &path = result.request.path;
     if (result.outcome == CopyRemoval::Outcome::Trashed) {
@@ -470,6 +501,183 @@ void BRDuplicateFilesViewController::copyWentToTrash(const QString &key, const Q
         m_previewDelegate->removeDataAtIndex(
             static_cast<int>(m_previewDelegate->filePaths().indexOf(path)));
     m_results->recountAfterRemoval();
+}
+
+// ---------------------------------------------------------------------------------------
+// Keep one, trash the rest
+
+bool BRDuplicateFilesViewController::isKeepingOne() const
+{
+    return m_keepOneRun && m_keepOneRun->isRunning();
+}
+
+void BRDuplicateFilesViewController::keepOneCopyOfGroupsOnScreen(KeepOnePlan::Rule rule)
+{
+    if (m_results->listContent() != DuplicateResults::ListContent::Groups)
+        return;
+    keepOneCopy(rule, m_results->checkSearchActiveAndGetData());
+}
+
+void BRDuplicateFilesViewController::keepOneCopy(KeepOnePlan::Rule rule, const QStringList &keys)
+{
+    // One run at a time, and not while the scan still changes the groups.
+    if (isKeepingOne() || !m_results->scanStatus() || keys.isEmpty())
+        return;
+    QString folder;
+    if (rule == KeepOnePlan::Rule::InFolder) {
+        if (!m_openPanel)
+            return;
+        OpenPanelRequest request;
+        request.message = QStringLiteral("Choose the folder whose copies to keep");
+        request.canChooseFiles = false;
+        request.canChooseDirectories = true;
+        const QList<QUrl> chosen = m_openPanel->runModal(request);
+        if (chosen.isEmpty())
+            return;
+        folder = chosen.constFirst().toLocalFile();
+    }
+    const KeepOnePlan plan = KeepOnePlan::make(m_results->groups(), keys, rule, folder);
+    m_keepOneRuleText = KeepOneMenu::ruleText(rule, QFileInfo(folder).fileName());
+    m_keepOneFolder = folder;
+    m_keepOneSkipped = plan.groupsWithoutAChoice();
+    if (plan.filesToRemove() == 0) {
+        showAlert(QStringLiteral("No files to move to the Trash"),
+                  rule == KeepOnePlan::Rule::InFolder
+                      ? QStringLiteral("No group listed has a copy in \u201C%1\u201D.")
+                            .arg(QFileInfo(folder).fileName())
+                      : QStringLiteral("Every group listed has one copy only."));
+        return;
+    }
+
+    const qsizetype files = plan.filesToRemove();
+    const qsizetype groups = plan.groups().size();
+    QString text = QStringLiteral("One copy of each of %1 %2 stays: %3. %4 %5 to the Trash and "
+                                  "%6 %7. Each is compared with the copy that stays before it "
+                                  "goes.")
+                       .arg(groups)
+                       .arg(groups == 1 ? QStringLiteral("group") : QStringLiteral("groups"))
+                       .arg(m_keepOneRuleText)
+                       .arg(files)
+                       .arg(files == 1 ? QStringLiteral("file goes") : QStringLiteral("files go"))
+                       .arg(files == 1 ? QStringLiteral("frees") : QStringLiteral("free"))
+                       .arg(ByteCountFormatter::binary(plan.bytesFreed()));
+    if (m_keepOneSkipped > 0)
+        text += QStringLiteral(" %1 %2 no copy in \u201C%3\u201D and %4 left whole.")
+                    .arg(m_keepOneSkipped)
+                    .arg(m_keepOneSkipped == 1 ? QStringLiteral("group has")
+                                               : QStringLiteral("groups have"))
+                    .arg(QFileInfo(folder).fileName())
+                    .arg(m_keepOneSkipped == 1 ? QStringLiteral("is") : QStringLiteral("are"));
+    const int answer =
+        m_alerts.runModal({files == 1 ? QStringLiteral("Move 1 file to the Trash?")
+                                      : QStringLiteral("Move %1 files to the Trash?").arg(files),
+                           text,
+                           {QStringLiteral("Move to Trash"), QStringLiteral("Cancel")}});
+    if (answer != AlertPresenter::firstButton)
+        return;
+
+    closePopOver();
+    auto *run = new KeepOneRun(*m_removal, m_results->groups(), plan, this);
+    m_keepOneRun = run;
+    connect(run, &KeepOneRun::progressed, this,
+            [this](int done, int total) { m_cancelView->showRemovalProgress(done, total); });
+    connect(run, &KeepOneRun::ended, this, &BRDuplicateFilesViewController::keepOneRunEnded);
+    m_keepOneButton->setEnabled(false);
+    if (m_sortAndCancelTabViewDelegate)
+        m_sortAndCancelTabViewDelegate->selectTabAtIndex(1);
+    run->start();
+}
+
+void BRDuplicateFilesViewController::batchRemovalFinished(const CopyRemoval::Result &result)
+{
+    // The run counts what stayed and says so once at its end; the lists follow each copy
+    // that went, and are redrawn and recounted a few times a second.
+    switch (result.outcome) {
+    case CopyRemoval::Outcome::Trashed:
+        m_results->removeCopy(result.request.key, result.request.path);
+        break;
+    case CopyRemoval::Outcome::Vanished:
+        m_results->dropVanishedCopy(result.request.key, result.request.path);
+        break;
+    default:
+        return;
+    }
+    if (!m_batchRefreshTimer->isActive())
+        m_batchRefreshTimer->start();
+}
+
+void BRDuplicateFilesViewController::refreshAfterBatch()
+{
+    if (m_results->selectedSortType() == SortOrder::Size)
+        m_results->checkSortTypeAndSortData();
+    else
+        m_results->reloadData();
+    m_results->recountAfterRemoval();
+}
+
+void BRDuplicateFilesViewController::keepOneRunEnded()
+{
+    KeepOneRun *run = m_keepOneRun;
+    if (!run)
+        return;
+    m_batchRefreshTimer->stop();
+    refreshAfterBatch();
+    m_keepOneButton->setEnabled(true);
+    if (m_sortAndCancelTabViewDelegate)
+        m_sortAndCancelTabViewDelegate->selectTabAtIndex(0);
+    const KeepOneRun::Tally &tally = run->tally();
+
+    QStringList sentences;
+    if (tally.trashed > 0)
+        sentences.append(
+            QStringLiteral("%1 %2 %3.")
+                .arg(tally.trashed == 1 ? QStringLiteral("It") : QStringLiteral("They"))
+                .arg(tally.trashed == 1 ? QStringLiteral("frees") : QStringLiteral("free"))
+                .arg(ByteCountFormatter::binary(tally.bytesFreed)));
+    const auto kept = [&](CopyRemoval::Outcome outcome, const QString &one, const QString &many) {
+        const int count = tally.kept.value(outcome);
+        if (count > 0)
+            sentences.append((count == 1 ? one : many.arg(count)));
+    };
+    kept(CopyRemoval::Outcome::Changed,
+         QStringLiteral("1 file was kept: it had changed since the scan."),
+         QStringLiteral("%1 files were kept: they had changed since the scan."));
+    kept(CopyRemoval::Outcome::NotACopy,
+         QStringLiteral("1 file was kept: it is not an exact copy of the one that stays."),
+         QStringLiteral("%1 files were kept: they are not exact copies of the ones that stay."));
+    kept(CopyRemoval::Outcome::LastCopy,
+         QStringLiteral("1 file was kept: the copy meant to stay is gone."),
+         QStringLiteral("%1 files were kept: the copies meant to stay are gone."));
+    kept(CopyRemoval::Outcome::Unreadable,
+         QStringLiteral("1 file was kept: it could not be compared."),
+         QStringLiteral("%1 files were kept: they could not be compared."));
+    kept(CopyRemoval::Outcome::TrashRefused, QStringLiteral("1 file was kept: ") + tally.trashError,
+         QStringLiteral("%1 files were kept. The first: ") + tally.trashError);
+    kept(CopyRemoval::Outcome::Vanished, QStringLiteral("1 file was gone already."),
+         QStringLiteral("%1 files were gone already."));
+    if (m_keepOneSkipped > 0)
+        sentences.append(
+            QStringLiteral("%1 %2 no copy in \u201C%3\u201D and %4 left whole.")
+                .arg(m_keepOneSkipped)
+                .arg(m_keepOneSkipped == 1 ? QStringLiteral("group had")
+                                           : QStringLiteral("groups had"))
+                .arg(QFileInfo(m_keepOneFolder).fileName())
+                .arg(m_keepOneSkipped == 1 ? QStringLiteral("was") : QStringLiteral("were")));
+    if (tally.notChecked > 0)
+        sentences.append(QStringLiteral("Stopped: %1 %2 not checked and stayed.")
+                             .arg(tally.notChecked)
+                             .arg(tally.notChecked == 1 ? QStringLiteral("file was")
+                                                        : QStringLiteral("files were")));
+    const QString title =
+        tally.trashed == 0 ? QStringLiteral("No files were moved to the Trash")
+        : tally.trashed == 1
+            ? QStringLiteral("1 file was moved to the Trash")
+            : QStringLiteral("%1 files were moved to the Trash").arg(tally.trashed);
+    qCInfo(resultsLog).noquote() << title << sentences.join(u' ');
+    run->deleteLater();
+    showAlert(title, sentences.join(u' '));
+    if (m_results->groups().isEmpty())
+        showDuplicateStatusView();
 }
 
 bool BRDuplicateFilesViewController::removeFileAtPath(const QString &path, const QString &key)

@@ -2,6 +2,8 @@
 
 #include "BRDuplicateFilesViewDelegate.h"
 #include "CopyRemoval.h"
+#include "KeepOnePlan.h"
+#include "KeepOneRun.h"
 #include "WindowDelegate.h"
 
 #include <QPointer>
@@ -9,6 +11,7 @@
 #include <QUrl>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 class AlertPresenter;
@@ -25,7 +28,10 @@ class BRDuplicateTableView;
 class DuplicateResults;
 class DuplicateTableModel;
 class QLabel;
+class OpenPanel;
 class QLineEdit;
+class QMenu;
+class QToolButton;
 class QTimer;
 class RowAnchoredPopover;
 class ThumbnailLoader;
@@ -53,8 +59,11 @@ public:
         int progressPollMs = 250; // how often the progress view hears from the walk
     };
 
+    // `openPanel` lets the user name the folder whose copies are kept; without one that
+    // choice is not offered.
     BRDuplicateFilesViewController(AlertPresenter &alerts, Workspace &workspace,
-                                   ApplicationStatus *appDelegate, QWidget *parent = nullptr);
+                                   ApplicationStatus *appDelegate, OpenPanel *openPanel = nullptr,
+                                   QWidget *parent = nullptr);
     ~BRDuplicateFilesViewController() override;
 
     void setTimings(const Timings &timings) { m_timings = timings; }
@@ -73,6 +82,12 @@ public:
     void sortSubType(SubType subType, SortOrder mainType) override;
     void cancelScanProcess() override;
     void updateScanStatus(bool status) override;
+    void keepOneCopy(KeepOnePlan::Rule rule, const QStringList &keys) override;
+
+    // Keeps one copy of each group the list shows (under the sub-type and search in force)
+    // and moves the others to the Trash, after the user agreed.
+    void keepOneCopyOfGroupsOnScreen(KeepOnePlan::Rule rule);
+    bool isKeepingOne() const;
 
     // What quitting turns on: a scan under way, the groups that would be lost.
     bool isScanRunning() const;
@@ -109,6 +124,9 @@ private:
     bool removeFileAtPath(const QString &path, const QString &key);
     void removalFinished(const CopyRemoval::Result &result);
     void copyWentToTrash(const QString &key, const QString &path);
+    void batchRemovalFinished(const CopyRemoval::Result &result);
+    void refreshAfterBatch();
+    void keepOneRunEnded();
     void showDuplicateStatusView();
     void showTotals(qint64 duplicateCount, qint64 reclaimableBytes);
     void setTotalSizeOfDuplicate(qint64 bytes);
@@ -122,6 +140,13 @@ private:
     // Created first, so that it goes first and takes the list's model with it.
     DuplicateResults *m_results;
     CopyRemoval *m_removal;
+    OpenPanel *m_openPanel;
+    QPointer<KeepOneRun> m_keepOneRun;
+    QString m_keepOneRuleText; // how the kept copy was chosen, for the summary
+    QString m_keepOneFolder;
+    int m_keepOneSkipped = 0;
+    QTimer *m_batchRefreshTimer;
+    QToolButton *m_keepOneButton = nullptr;
     ThumbnailLoader *m_thumbnails;
     QTimer *m_progressTimer;
     Timings m_timings;

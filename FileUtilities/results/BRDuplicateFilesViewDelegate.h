@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KeepOnePlan.h"
 #include "ScanReport.h"
 #include "SortOrder.h"
 #include "SubType.h"
@@ -32,4 +33,10 @@ public:
     virtual void sortSubType(SubType subType, SortOrder mainType) = 0;
     virtual void cancelScanProcess() = 0;
     virtual void updateScanStatus(bool status) = 0;
+    // Keeps one copy of each of the groups `keys` by `rule` and moves the rest to the Trash.
+    virtual void keepOneCopy(KeepOnePlan::Rule rule, const QStringList &keys)
+    {
+        Q_UNUSED(rule)
+        Q_UNUSED(keys)
+    }
 };

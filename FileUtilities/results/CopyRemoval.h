@@ -32,6 +32,7 @@ public:
         QString path; // the copy to remove
         QStringList otherPaths;
         std::optional<FileStamp> scanned;
+        quint64 batch = 0; // which run of many asked; 0 for one copy asked on its own
     };
 
     enum class Outcome
