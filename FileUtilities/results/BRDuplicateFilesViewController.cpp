@@ -594,7 +594,7 @@ void BRDuplicateFilesViewController::batchRemovalFinished(const CopyRemoval::Res
     // that went, and are redrawn and recounted a few times a second.
     switch (result.outcome) {
     case CopyRemoval::Outcome::Trashed:
-        m_results->removeCopy(result.request.key, result.request.path);
+        m_results->forgetCopy(result.request.key, result.request.path);
         break;
     case CopyRemoval::Outcome::Vanished:
         m_results->dropVanishedCopy(result.request.key, result.request.path);

@@ -550,9 +550,17 @@ void DuplicateResults::search(const QString &query)
 
 qsizetype DuplicateResults::removeCopy(const QString &key, const QString &path)
 {
+    if (!m_dictOfDupeFiles.find(key))
+        return -1;
+    forgetCopy(key, path);
+    return rowOnScreen(key);
+}
+
+void DuplicateResults::forgetCopy(const QString &key, const QString &path)
+{
     const GroupRecord *record = m_dictOfDupeFiles.find(key);
     if (!record)
-        return -1;
+        return;
     const std::optional<FileStamp> stamp = stampOf(record->fileStamps, path);
     const bool folder =
         stamp ? stamp->isFolder : record->fileType == FileTypeDatabase::folderDescription();
@@ -561,7 +569,6 @@ qsizetype DuplicateResults::removeCopy(const QString &key, const QString &path)
     updateDictionaryDataForKey(key, remaining, record->totalSize - record->fileSize);
     if (folder)
         dropPathsUnder(path);
-    return rowOnScreen(key);
 }
 
 void DuplicateResults::dropPathsUnder(const QString &folder)

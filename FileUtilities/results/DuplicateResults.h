@@ -78,6 +78,8 @@ public:
     // A folder takes with it every path inside it, from every group. Gives the group's row
     // on screen, or -1.
     qsizetype removeCopy(const QString &key, const QString &path);
+    // The same, without looking for the row: a run of many removals redraws all at once.
+    void forgetCopy(const QString &key, const QString &path);
     // Shows the totals after removeCopy. Once the scan has ended they are counted anew;
     // during a scan only the reclaimable size changes, and the count waits for the
     // scan's next report.

@@ -1,6 +1,6 @@
 #include "KeepOnePlan.h"
 
-#include <QSet>
+#include <QVarLengthArray>
 
 #include <limits>
 
@@ -57,9 +57,9 @@ KeepOnePlan KeepOnePlan::make(const GroupMap &groups, const QStringList &keys, R
         Group group{key, paths.at(chosen), {}, {}};
         // Files counted already, by device and inode: the kept one, whose other names free
         // nothing, and each one removed, whose further names free nothing more.
-        QSet<std::pair<quint64, quint64>> counted;
+        QVarLengthArray<std::pair<quint64, quint64>, 8> counted;
         if (const auto kept = stampOf(record->fileStamps, group.kept))
-            counted.insert({kept->device, kept->inode});
+            counted.append({kept->device, kept->inode});
         for (qsizetype at = 0; at < paths.size(); ++at) {
             if (at == chosen)
                 continue;
@@ -68,7 +68,7 @@ KeepOnePlan KeepOnePlan::make(const GroupMap &groups, const QStringList &keys, R
             const bool file = stamp && !stamp->isFolder;
             const bool fresh = !file || !counted.contains({stamp->device, stamp->inode});
             if (file)
-                counted.insert({stamp->device, stamp->inode});
+                counted.append({stamp->device, stamp->inode});
             group.freedBytes.append(fresh ? record->fileSize : 0);
             plan.m_bytesFreed += group.freedBytes.constLast();
         }
