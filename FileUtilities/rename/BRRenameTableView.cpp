@@ -87,7 +87,9 @@ QRect BRRenameTableView::rectForRow(int row) const
 QRect BRRenameTableView::popoverAnchorForRow(int row) const
 {
     const QRect rect = rectForRow(row);
-    return rect.isEmpty() ? QRect() : RenameRowStyle::geometry(rect).popoverControl;
+    // The popover stands to the left of the row's new name, over the pictures and old names:
+    // on the row's own control it would cover the new names of the rows around it.
+    return rect.isEmpty() ? QRect() : RenameRowStyle::geometry(rect).newName;
 }
 
 BRRenameTableViewCell *BRRenameTableView::cellForRow(int row) const

@@ -36,7 +36,8 @@ public:
     int rowForView(QWidget *view) const;
     // A row's rectangle in this view's coordinates; empty when the row is not on screen.
     QRect rectForRow(int row) const;
-    // The popover control of a row, in this view's coordinates; empty when not on screen.
+    // What a row's popover points at (the new name), in this view's coordinates; empty when
+    // the row is not on screen.
     QRect popoverAnchorForRow(int row) const;
     // The live cell over `row`, or null when the row is only painted.
     BRRenameTableViewCell *cellForRow(int row) const;

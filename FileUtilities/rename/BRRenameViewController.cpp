@@ -353,8 +353,9 @@ void BRRenameViewController::showPopOver(int row)
     const QRect anchor = m_renameTableView->popoverAnchorForRow(row);
     if (!anchor.isEmpty())
         m_popover->showRelativeToRect(anchor, m_renameTableView, Qt::LeftEdge);
-    preview->setCurrentName(QFileInfo(path).fileName());
 
+    m_popover->setAccessibleName(QFileInfo(path).fileName());
+    preview->setCurrentName(QFileInfo(path).fileName());
     // The popover opens at once; its picture follows.
     QPointer<BRFilePreviewPopoverViewController> target(preview);
     runOnWorker(

@@ -565,3 +565,5 @@ void BRDuplicateFilesViewController::showAlert(const QString &title, const QStri
         self->m_alerts.runModal({title, description, {QStringLiteral("OK")}});
     });
 }
+    // A screen reader says the group's name when the focus enters the popover.
+    popover->setAccessibleName(record->fileName);
