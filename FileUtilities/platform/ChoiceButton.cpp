@@ -1,0 +1,15 @@
+#include "ChoiceButton.h"
+
+#include <QStyleOptionButton>
+
+ChoiceButton::ChoiceButton(QWidget *parent) : QPushButton(parent)
+{
+    setFlat(true);
+    setCheckable(true);
+}
+
+void ChoiceButton::initStyleOption(QStyleOptionButton *option) const
+{
+    QPushButton::initStyleOption(option);
+    option->state &= ~QStyle::State_On;
+}

@@ -1,0 +1,18 @@
+#include "ChoiceToolButton.h"
+
+#include <QStyleOptionToolButton>
+
+ChoiceToolButton::ChoiceToolButton(QWidget *parent) : QToolButton(parent)
+{
+    setAutoRaise(true);
+    setCheckable(true);
+}
+
+void ChoiceToolButton::initStyleOption(QStyleOptionToolButton *option) const
+{
+    QToolButton::initStyleOption(option);
+    option->state &= ~QStyle::State_On;
+    // What an unchecked button would carry: the hover panel then looks the same for both.
+    if (!isDown())
+        option->state |= QStyle::State_Raised;
+}
