@@ -1,11 +1,14 @@
 #include "ChoiceButton.h"
 
+#include "ChoiceAccessible.h"
+
 #include <QStyleOptionButton>
 
 ChoiceButton::ChoiceButton(QWidget *parent) : QPushButton(parent)
 {
     setFlat(true);
     setCheckable(true);
+    ChoiceAccessible::install();
 }
 
 void ChoiceButton::initStyleOption(QStyleOptionButton *option) const

@@ -1,11 +1,14 @@
 #include "ChoiceToolButton.h"
 
+#include "ChoiceAccessible.h"
+
 #include <QStyleOptionToolButton>
 
 ChoiceToolButton::ChoiceToolButton(QWidget *parent) : QToolButton(parent)
 {
     setAutoRaise(true);
     setCheckable(true);
+    ChoiceAccessible::install();
 }
 
 void ChoiceToolButton::initStyleOption(QStyleOptionToolButton *option) const
