@@ -196,11 +196,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("screen");
         QTest::newRow("duplicates, start") << u"start"_s;
+        QTest::newRow("duplicates, scanning") << u"scanning"_s;
+        QTest::newRow("duplicates, nothing found") << u"status"_s;
         QTest::newRow("duplicates, results with groups") << u"results"_s;
         QTest::newRow("duplicates, detail popover open") << u"detail"_s;
         QTest::newRow("rename, drop target") << u"drop"_s;
         QTest::newRow("rename, list with rows") << u"list"_s;
         QTest::newRow("rename, per-file popover open") << u"editor"_s;
+        QTest::newRow("rename, completion") << u"complete"_s;
     }
     void everyControlIsNamed()
     {
@@ -209,6 +212,10 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&window.main));
         RowAnchoredPopover *popover = nullptr;
         QString popoverName;
+        if (screen == u"scanning"_s)
+            window.results()->startScanProcess(QUrl());
+        if (screen == u"status"_s)
+            window.duplicates->showScanStatusScreen(u"Photos"_s);
         if (screen == u"results"_s || screen == u"detail"_s)
             window.showResults();
         if (screen == u"detail"_s) {
@@ -220,6 +227,11 @@ private Q_SLOTS:
             window.main.renameImageButton()->click();
         if (screen == u"list"_s || screen == u"editor"_s)
             window.showRenameRows(m_dir);
+        if (screen == u"complete"_s) {
+            window.main.renameImageButton()->click();
+            window.rename->setViewsHiddenState(true, true, true, false);
+            Q_EMIT window.rename->notificationCenter()->renameComplete({u"a.jpg"_s});
+        }
         if (screen == u"editor"_s) {
             window.rename->showPopOver(1);
             popover = window.rename->popover();
