@@ -1,14 +1,17 @@
 // What a screen reader finds in the main screens, and what the keyboard alone can do there.
 #include "ApplicationStatus.h"
+#include "BRAboutViewController.h"
 #include "BRDuplicateFilePreviewViewController.h"
 #include "BRDuplicateFilesMainViewController.h"
 #include "BRDuplicateFilesViewController.h"
 #include "BRDuplicateSortViewController.h"
 #include "BRDuplicateTabViewController.h"
 #include "BRDuplicateTableView.h"
+#include "BRIntroViewController.h"
 #include "BRMainViewController.h"
 #include "BRRenameTableView.h"
 #include "BRRenameViewController.h"
+#include "BRSelectHomeFolderViewController.h"
 #include "BRTabViewController.h"
 #include "DuplicateResults.h"
 #include "RenameList.h"
@@ -24,6 +27,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QTest>
 #include <QToolButton>
 
@@ -249,6 +253,24 @@ private Q_SLOTS:
             QVERIFY(walk.visited.contains(node));
             QCOMPARE(node->role(), QAccessible::Dialog);
             QCOMPARE(node->text(QAccessible::Name), popoverName);
+        }
+    }
+
+    void firstLaunchAndAboutAreNamed()
+    {
+        ScriptedWorkspace workspace;
+        ScriptedOpenPanel panel;
+        QSettings settings(m_dir.filePath(u"settings.ini"_s), QSettings::IniFormat);
+        BRIntroViewController intro;
+        BRSelectHomeFolderViewController home(panel, &settings);
+        BRAboutViewController about(workspace);
+        for (QWidget *screen : {static_cast<QWidget *>(&intro), static_cast<QWidget *>(&home),
+                                static_cast<QWidget *>(&about)}) {
+            screen->show();
+            QVERIFY(QTest::qWaitForWindowExposed(screen));
+            const Walk walk = walkWindow(screen);
+            QVERIFY2(walk.unnamed.isEmpty(), qPrintable(walk.unnamed.join(u"\n"_s)));
+            QVERIFY(walk.visited.size() > 2);
         }
     }
 
