@@ -133,7 +133,10 @@ Qt::ItemFlags RenameTableModel::flags(const QModelIndex &index) const
     // a row from one between rows, and then refuses it in canDropMimeData.
     if (!index.isValid())
         return Qt::ItemIsDropEnabled;
-    return Qt::ItemIsEnabled | Qt::ItemIsDropEnabled | Qt::ItemNeverHasChildren;
+    // Selectable, though the list selects nothing: assistive tools offer the keyboard's
+    // focus only to rows that say so.
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDropEnabled |
+           Qt::ItemNeverHasChildren;
 }
 
 QStringList RenameTableModel::mimeTypes() const

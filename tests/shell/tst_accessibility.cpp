@@ -411,6 +411,7 @@ private Q_SLOTS:
         QAccessibleInterface *listNode = interfaceOf(list);
         QCOMPARE(listNode->child(0)->text(QAccessible::Name), u"a.jpg"_s);
         QCOMPARE(listNode->child(0)->text(QAccessible::Description), u"No new name"_s);
+        QVERIFY(listNode->child(0)->state().focusable);
 
         list->setFocus(Qt::TabFocusReason);
         QCOMPARE(list->currentIndex().row(), 0);
