@@ -1,5 +1,6 @@
 #include "QtAlertPresenter.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -9,7 +10,11 @@ int QtAlertPresenter::runModal(const AlertRequest &request)
 {
     QMessageBox box(m_window);
     // A question that risks something warns; a plain notice informs.
-    box.setIcon(request.buttons.size() > 1 ? QMessageBox::Warning : QMessageBox::Information);
+    const bool warns = request.buttons.size() > 1;
+    box.setIcon(warns ? QMessageBox::Warning : QMessageBox::Information);
+    // The icon says what kind of alert this is; a reader says it too.
+    if (auto *icon = box.findChild<QLabel *>(QStringLiteral("qt_msgboxex_icon_label")))
+        icon->setAccessibleName(warns ? QStringLiteral("Warning") : QStringLiteral("Information"));
     box.setText(request.title);
     box.setInformativeText(request.text);
     const QStringList buttons =

@@ -1,5 +1,7 @@
 #include "QtOpenPanel.h"
 
+#include "FilesAndFoldersDialog.h"
+
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QSortFilterProxyModel>
@@ -33,11 +35,17 @@ QtOpenPanel::QtOpenPanel(QWidget *window) : m_window(window) {}
 
 QList<QUrl> QtOpenPanel::runModal(const OpenPanelRequest &request)
 {
-    QFileDialog dialog(m_window, request.message, request.directory);
+    FilesAndFoldersDialog dialog(m_window, request.message, request.directory);
     // Qt's own dialog: the desktop's native one cannot disable entries.
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    if (request.canChooseDirectories && !request.canChooseFiles) {
+    dialog.setFoldersChoosable(request.canChooseDirectories && request.canChooseFiles);
+    if (request.canChooseDirectories && request.canChooseFiles) {
+        // Files and folders both: "Open" takes the folders highlighted as well.
+        dialog.setFileMode(QFileDialog::ExistingFiles);
+        if (!request.allowsMultipleSelection)
+            dialog.setFileMode(QFileDialog::ExistingFile);
+    } else if (request.canChooseDirectories) {
         dialog.setFileMode(QFileDialog::Directory);
         dialog.setOption(QFileDialog::ShowDirsOnly);
     } else {

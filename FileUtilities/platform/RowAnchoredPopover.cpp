@@ -2,8 +2,12 @@
 
 #include "LookColors.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRegion>
@@ -69,21 +73,52 @@ int clampedStart(int start, int length, int screenStart, int screenLength)
     return qBound(screenStart, start, screenStart + screenLength - length);
 }
 
+// Screen readers announce a dialog by its name when the focus enters it, which tells the
+// user where they are; a plain widget would be passed over in silence.
+QAccessibleInterface *popoverAccessible(const QString &className, QObject *object)
+{
+    if (className == QLatin1String("RowAnchoredPopover") && object && object->isWidgetType())
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Dialog);
+    return nullptr;
+}
+
+void installAccessibleRole()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(popoverAccessible);
+        return true;
+    }();
+    Q_UNUSED(installed);
+}
+
+bool takesTabFocus(const QWidget *widget)
+{
+    return (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy() && widget->isEnabled() &&
+           widget->isVisible();
+}
+
 } // namespace
 
 RowAnchoredPopover::RowAnchoredPopover(QWidget *content, QWidget *parent)
-    : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint), m_content(content)
+    : QFrame(parent), m_content(content), m_owner(parent)
 {
+    installAccessibleRole();
     setObjectName(QStringLiteral("RowAnchoredPopover"));
     setAttribute(Qt::WA_DeleteOnClose);
-    // The rounded corners and the notch show what lies behind: through the translucent
-    // ground where a compositor blends windows, and through the window's shape (set with
-    // its geometry) where none does, which would otherwise show black there.
-    setAttribute(Qt::WA_TranslucentBackground);
+    hide();
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(0);
     layout->addWidget(m_content);
     setEdge(Qt::RightEdge);
+    if (m_content && accessibleName().isEmpty())
+        setAccessibleName(m_content->accessibleName());
+    if (parent) {
+        // A popover whose screen went away has nothing left to speak to.
+        connect(parent, &QObject::destroyed, this,
+                [self = QPointer<RowAnchoredPopover>(this)] { delete self.data(); });
+    }
+    // Clicks and keys anywhere in the window, and the owner going out of sight, close it.
+    qApp->installEventFilter(this);
 }
 
 void RowAnchoredPopover::setEdge(Qt::Edge edge)
@@ -97,9 +132,22 @@ void RowAnchoredPopover::setEdge(Qt::Edge edge)
     layout()->setContentsMargins(left, top, right, bottom);
 }
 
+void RowAnchoredPopover::adoptWindowOf(QWidget *view)
+{
+    QWidget *host = view ? view->window() : (m_owner ? m_owner->window() : nullptr);
+    if (!host || host == this || parentWidget() == host)
+        return;
+    setParent(host);
+}
+
 void RowAnchoredPopover::showRelativeToRect(const QRect &rect, QWidget *view,
                                             Qt::Edge preferredEdge)
 {
+    adoptWindowOf(view);
+    QWidget *host = parentWidget();
+    if (QWidget *focus = QApplication::focusWidget(); focus && !holds(focus))
+        m_returnFocus = focus;
+
     QRect local = rect;
     if (view) {
         // A row wider than its list is anchored by the part that can be seen.
@@ -107,11 +155,17 @@ void RowAnchoredPopover::showRelativeToRect(const QRect &rect, QWidget *view,
         if (!visible.isEmpty())
             local = visible;
     }
-    const QRect anchor = view ? QRect(view->mapToGlobal(local.topLeft()), local.size()) : local;
-    QScreen *screen = QGuiApplication::screenAt(anchor.center());
-    if (!screen)
-        screen = view ? view->screen() : QGuiApplication::primaryScreen();
-    const QRect available = screen ? screen->availableGeometry() : QRect();
+    QRect anchor = local;
+    if (view && host)
+        anchor = QRect(view->mapTo(host, local.topLeft()), local.size());
+    else if (view)
+        anchor = QRect(view->mapToGlobal(local.topLeft()), local.size());
+    QRect available;
+    if (host) {
+        available = host->rect();
+    } else if (QScreen *screen = view ? view->screen() : QGuiApplication::primaryScreen()) {
+        available = screen->availableGeometry();
+    }
 
     // The notch adds to the side it stands on, so the size depends on the edge.
     const auto sizeOn = [this](Qt::Edge on) {
@@ -128,7 +182,7 @@ void RowAnchoredPopover::showRelativeToRect(const QRect &rect, QWidget *view,
         const int other = missing(opposite(edge));
         if (wanted > 0 && other < wanted)
             edge = opposite(edge);
-        // A row as wide as its list seldom leaves room at either end; held on the screen,
+        // A row as wide as its list seldom leaves room at either end; held in the window,
         // the popover would cover the row and point at nothing. Below or above the row
         // does better, when that fits.
         if (wanted > 0 && other > 0) {
@@ -158,9 +212,70 @@ void RowAnchoredPopover::showRelativeToRect(const QRect &rect, QWidget *view,
     m_arrowCenter = length > 2 * margin ? qBound(margin, along, length - margin) : length / 2;
 
     setGeometry(frame);
+    // Clicks beside the rounded corners and the notch reach what lies behind.
     setMask(QRegion(outline().toFillPolygon().toPolygon()));
+    raise();
     show();
     update();
+    focusFirstControl();
+    QAccessibleEvent opened(this, QAccessible::DialogStart);
+    QAccessible::updateAccessibility(&opened);
+}
+
+bool RowAnchoredPopover::holds(const QObject *object) const
+{
+    for (const QObject *at = object; at; at = at->parent()) {
+        if (at == this)
+            return true;
+    }
+    return false;
+}
+
+void RowAnchoredPopover::focusFirstControl()
+{
+    for (QWidget *next = nextInFocusChain(); next && next != this;
+         next = next->nextInFocusChain()) {
+        if (holds(next) && takesTabFocus(next)) {
+            next->setFocus(Qt::PopupFocusReason);
+            return;
+        }
+    }
+    // Nothing inside takes the keyboard: the popover itself does, so Escape reaches it.
+    setFocus(Qt::PopupFocusReason);
+}
+
+bool RowAnchoredPopover::focusNextPrevChild(bool next)
+{
+    if (!isVisible()) {
+        // Hiding moves the focus on from here; it goes back where it came from instead.
+        giveFocusBack();
+        return true;
+    }
+    // Tab goes round the popover's own controls: leaving them would leave it open behind
+    // the focus.
+    QWidget *start = QApplication::focusWidget();
+    if (!start || !holds(start))
+        start = this;
+    QWidget *at = start;
+    do {
+        at = next ? at->nextInFocusChain() : at->previousInFocusChain();
+        if (at != this && holds(at) && takesTabFocus(at)) {
+            at->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+    } while (at && at != start);
+    return true;
+}
+
+void RowAnchoredPopover::giveFocusBack()
+{
+    QWidget *focus = QApplication::focusWidget();
+    if (focus && !holds(focus))
+        return; // the user has already gone elsewhere, by a click
+    if (m_returnFocus && m_returnFocus->isVisible())
+        m_returnFocus->setFocus(Qt::PopupFocusReason);
+    else if (focus)
+        focus->clearFocus();
 }
 
 QPainterPath RowAnchoredPopover::outline() const
@@ -218,9 +333,63 @@ void RowAnchoredPopover::keyPressEvent(QKeyEvent *event)
     QFrame::keyPressEvent(event);
 }
 
+void RowAnchoredPopover::closeEvent(QCloseEvent *event)
+{
+    giveFocusBack();
+    QFrame::closeEvent(event);
+}
+
 void RowAnchoredPopover::hideEvent(QHideEvent *event)
 {
     QFrame::hideEvent(event);
     // Every way out passes here: Escape, a click outside, the owner's close().
+    if (m_closedSent)
+        return;
+    m_closedSent = true;
+    QAccessibleEvent gone(this, QAccessible::DialogEnd);
+    QAccessible::updateAccessibility(&gone);
     Q_EMIT closed();
+}
+
+bool RowAnchoredPopover::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!isVisible())
+        return false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::TouchBegin: {
+        auto *widget = qobject_cast<QWidget *>(watched);
+        if (!widget || widget->window() != window())
+            break; // an alert of the popover's own, or another window
+        if (!holds(widget)) {
+            close(); // the click goes on to what it landed on
+            break;
+        }
+        const auto *mouse = dynamic_cast<const QMouseEvent *>(event);
+        if (widget == this && mouse && !outline().contains(QPointF(mouse->position().toPoint()))) {
+            close();
+            return true;
+        }
+        break;
+    }
+    case QEvent::KeyPress: {
+        // Escape closes the popover wherever in its window the focus stands.
+        auto *widget = qobject_cast<QWidget *>(watched);
+        const auto *key = static_cast<const QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Escape && widget && widget->window() == window()) {
+            close();
+            return true;
+        }
+        break;
+    }
+    case QEvent::Hide:
+        // The screen that opened it went out of sight: another tool, another step.
+        if (watched == m_owner.data() && m_owner != parentWidget())
+            close();
+        break;
+    default:
+        break;
+    }
+    return false;
 }

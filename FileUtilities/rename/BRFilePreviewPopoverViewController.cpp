@@ -50,6 +50,7 @@ BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *
     m_renameFileImageView->setObjectName(QStringLiteral("renameFileImageView"));
     m_renameFileImageView->setFixedSize(imageSide, imageSide);
     m_renameFileImageView->setAlignment(Qt::AlignCenter);
+    m_renameFileImageView->setAccessibleName(QStringLiteral("Preview"));
     m_renameFileImageView->setPixmap(framedImage(QImage(), devicePixelRatioF()));
 
     m_renameFileCurrentLabel->setObjectName(QStringLiteral("renameFileCurrentLabel"));

@@ -46,6 +46,8 @@ BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWi
     auto *badgeView = new QLabel(m_completeView);
     badgeView->setPixmap(badge(devicePixelRatioF()));
     badgeView->setAlignment(Qt::AlignCenter);
+    // The tick says the run went through; a reader hears the same.
+    badgeView->setAccessibleName(QStringLiteral("Completed"));
 
     QLabel *headline = Look::label(m_completeView, 24, QFont::Medium, Look::Color::PrimaryText,
                                    QStringLiteral("Renaming done"));

@@ -1,5 +1,6 @@
 #include "BRRenameTableRowDelegate.h"
 
+#include "LookColors.h"
 #include "RenameRowStyle.h"
 #include "RenameTableModel.h"
 #include "Thumbnail.h"
@@ -58,5 +59,12 @@ void BRRenameTableRowDelegate::paint(QPainter *painter, const QStyleOptionViewIt
     QRect iconRect(QPoint(0, 0), iconSize);
     iconRect.moveCenter(parts.popoverControl.center());
     painter->drawPixmap(iconRect, m_popoverIcon.pixmap(iconSize, ratio));
+    // The keyboard's row, while the list has the focus: Enter and Delete act on it.
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(Look::color(Look::Color::Accent), 2));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(row).adjusted(4, 3, -4, -3), 6, 6);
+    }
     painter->restore();
 }

@@ -9,6 +9,7 @@
 #include "ThumbnailCache.h"
 #include "ThumbnailLoader.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 
@@ -24,8 +25,10 @@ BRRenameTableView::BRRenameTableView(QWidget *parent)
     // each one.
     setUniformItemSizes(true);
     setSelectionMode(QAbstractItemView::NoSelection);
-    // A click on the list takes the keyboard, which ends the typing of a row's name.
-    setFocusPolicy(Qt::ClickFocus);
+    // A click on the list takes the keyboard, which ends the typing of a row's name; Tab
+    // reaches it too, for the arrows, Enter and Delete.
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(QStringLiteral("Files to rename"));
     setFrameShape(QFrame::NoFrame);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -87,7 +90,9 @@ QRect BRRenameTableView::rectForRow(int row) const
 QRect BRRenameTableView::popoverAnchorForRow(int row) const
 {
     const QRect rect = rectForRow(row);
-    return rect.isEmpty() ? QRect() : RenameRowStyle::geometry(rect).popoverControl;
+    // The popover stands to the left of the row's new name, over the pictures and old names:
+    // on the row's own control it would cover the new names of the rows around it.
+    return rect.isEmpty() ? QRect() : RenameRowStyle::geometry(rect).newName;
 }
 
 BRRenameTableViewCell *BRRenameTableView::cellForRow(int row) const
@@ -105,6 +110,38 @@ void BRRenameTableView::mousePressEvent(QMouseEvent *event)
     QListView::mousePressEvent(event);
     if (index.isValid() && m_renameDelegate)
         m_renameDelegate->showPopOver(index.row());
+}
+
+void BRRenameTableView::keyPressEvent(QKeyEvent *event)
+{
+    // Keys that a row's own field lets pass (Return after typing a name) are not the list's.
+    const QModelIndex current = currentIndex();
+    if (hasFocus() && current.isValid() && event->modifiers() == Qt::NoModifier) {
+        switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (m_renameDelegate)
+                m_renameDelegate->showPopOver(current.row());
+            event->accept();
+            return;
+        case Qt::Key_Delete:
+        case Qt::Key_Backspace:
+            Q_EMIT rowRemovalRequested(current.row());
+            event->accept();
+            return;
+        default:
+            break;
+        }
+    }
+    QListView::keyPressEvent(event);
+}
+
+void BRRenameTableView::focusInEvent(QFocusEvent *event)
+{
+    QListView::focusInEvent(event);
+    if (!currentIndex().isValid() && m_model->rowCount() > 0)
+        setCurrentIndex(m_model->index(0, 0));
+    viewport()->update();
 }
 
 void BRRenameTableView::mouseMoveEvent(QMouseEvent *event)

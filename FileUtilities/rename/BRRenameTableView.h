@@ -17,6 +17,9 @@ class ThumbnailLoader;
 // it, so that its remove control, its popover control and its name field answer, and a
 // row whose name is being typed keeps its cell until the typing ends. A click on a row
 // opens its file's popover and a turn of the wheel closes it.
+//
+// The keyboard does the same: the arrows move the current row, which is painted with a
+// ring while the list has the focus; Enter opens its popover, Delete asks for its removal.
 class BRRenameTableView : public QListView
 {
     Q_OBJECT
@@ -36,12 +39,19 @@ public:
     int rowForView(QWidget *view) const;
     // A row's rectangle in this view's coordinates; empty when the row is not on screen.
     QRect rectForRow(int row) const;
-    // The popover control of a row, in this view's coordinates; empty when not on screen.
+    // What a row's popover points at (the new name), in this view's coordinates; empty when
+    // the row is not on screen.
     QRect popoverAnchorForRow(int row) const;
     // The live cell over `row`, or null when the row is only painted.
     BRRenameTableViewCell *cellForRow(int row) const;
 
+Q_SIGNALS:
+    // Delete on the current row: the rename screen takes the file off the list.
+    void rowRemovalRequested(int row);
+
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;

@@ -53,6 +53,8 @@ BRRenameViewController::BRRenameViewController(const Services &services, QWidget
     model->setAcceptDrop([this](const QList<QUrl> &urls) { return m_list->addDropped(urls); });
 
     m_renameTableView->setRenameDelegate(this);
+    connect(m_renameTableView, &BRRenameTableView::rowRemovalRequested, this,
+            &BRRenameViewController::removeRow);
     if (m_list->rowCount() == 0)
         setViewsHiddenState(true, false, true, true);
     connect(m_center, &RenameNotificationCenter::dragAndDropComplete, this,
@@ -209,7 +211,11 @@ void BRRenameViewController::removeRowFromTableView(QWidget *sender)
 {
     if (!sender)
         return;
-    const int row = m_renameTableView->rowForView(sender);
+    removeRow(m_renameTableView->rowForView(sender));
+}
+
+void BRRenameViewController::removeRow(int row)
+{
     if (row >= 0 && row < m_list->rowCount()) {
         closePopOver();
         m_list->remove(m_list->keys().at(row));
@@ -349,11 +355,12 @@ void BRRenameViewController::showPopOver(int row)
     preview->setDelegate(this);
     preview->setIndex(row);
     m_popover = new RowAnchoredPopover(preview, this);
+    m_popover->setAccessibleName(QFileInfo(path).fileName());
+    preview->setCurrentName(QFileInfo(path).fileName());
     // Only a row on screen has somewhere to point at; the popover is not shown otherwise.
     const QRect anchor = m_renameTableView->popoverAnchorForRow(row);
     if (!anchor.isEmpty())
         m_popover->showRelativeToRect(anchor, m_renameTableView, Qt::LeftEdge);
-    preview->setCurrentName(QFileInfo(path).fileName());
 
     // The popover opens at once; its picture follows.
     QPointer<BRFilePreviewPopoverViewController> target(preview);

@@ -71,6 +71,8 @@ public:
     void closePopOver() override;
     void updateNewFileName(QLineEdit *textField, std::optional<int> row) override;
     void removeRowFromTableView(QWidget *sender) override;
+    // Takes the file in `row` off the list, as its remove control does.
+    void removeRow(int row);
 
     RenameNotificationCenter *notificationCenter() const { return m_center; }
     BRRenameTableView *renameTableView() const { return m_renameTableView; }

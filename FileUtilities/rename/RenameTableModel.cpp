@@ -79,6 +79,15 @@ int RenameTableModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : m_rowCount;
 }
 
+QString RenameTableModel::accessibleDescription(const RenameRecord &record)
+{
+    if (!record.destinationURL || record.destinationURL->isEmpty())
+        return QStringLiteral("No new name");
+    if (record.nameSource == NameSource::HandEdit)
+        return QStringLiteral("New name, typed: ") + *record.destinationURL;
+    return QStringLiteral("New name: ") + *record.destinationURL;
+}
+
 QVariant RenameTableModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
@@ -87,6 +96,8 @@ QVariant RenameTableModel::data(const QModelIndex &index, int role) const
     case KeyRole:
         return keyAt(index.row());
     case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+    case Qt::AccessibleDescriptionRole:
     case Qt::ToolTipRole:
     case SourcePathRole:
     case DestinationRole:
@@ -100,7 +111,10 @@ QVariant RenameTableModel::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
         return lastPathComponent(record->sourceURL);
+    case Qt::AccessibleDescriptionRole:
+        return accessibleDescription(*record);
     case Qt::ToolTipRole:
     case SourcePathRole:
         return record->sourceURL.path();
@@ -119,7 +133,10 @@ Qt::ItemFlags RenameTableModel::flags(const QModelIndex &index) const
     // a row from one between rows, and then refuses it in canDropMimeData.
     if (!index.isValid())
         return Qt::ItemIsDropEnabled;
-    return Qt::ItemIsEnabled | Qt::ItemIsDropEnabled | Qt::ItemNeverHasChildren;
+    // Selectable, though the list selects nothing: assistive tools offer the keyboard's
+    // focus only to rows that say so.
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDropEnabled |
+           Qt::ItemNeverHasChildren;
 }
 
 QStringList RenameTableModel::mimeTypes() const

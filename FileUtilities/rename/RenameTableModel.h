@@ -46,6 +46,9 @@ public:
     int rowOfKey(const QString &key) const;
     // The last component of the record's path, for a folder too ("/a/b/" gives "b").
     static QString lastPathComponent(const QUrl &url);
+    // What a row says to a screen reader after its old name: the new name the row paints,
+    // and whether the user typed it.
+    static QString accessibleDescription(const RenameRecord &record);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role) const override;

@@ -26,6 +26,7 @@ BRDuplicateCancelViewController::BRDuplicateCancelViewController(QWidget *parent
     m_currentFolderLabel->setObjectName(QStringLiteral("currentFolderLabel"));
 
     m_progressIndicator->setTextVisible(false);
+    m_progressIndicator->setAccessibleName(QStringLiteral("Scan progress"));
     m_progressIndicator->setFixedHeight(6);
     // Most styles draw the busy state as a full bar with faint stripes, which reads as
     // finished; a segment moving along a track says the walk goes on.

@@ -34,6 +34,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QShortcut>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -49,6 +50,16 @@ bool fileExistsAtPath(const QString &path)
     {
     };
     return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+}
+
+QString duplicateFilesCaption()
+{
+    return QStringLiteral("Duplicate files");
+}
+
+QString reclaimableCaption()
+{
+    return QStringLiteral("Reclaimable");
 }
 
 QLabel *makeLabel(const QString &objectName, int pixelSize, QFont::Weight weight, Look::Color color,
@@ -106,6 +117,7 @@ void BRDuplicateFilesViewController::buildScreen()
     m_selectedFolderImageView->setObjectName(QStringLiteral("selectedFolderImageView"));
     m_selectedFolderImageView->setFixedSize(36, 36);
     m_selectedFolderImageView->setAlignment(Qt::AlignCenter);
+    m_selectedFolderImageView->setAccessibleName(QStringLiteral("Scanned folder"));
     const Look::Color dark = Look::Color::PrimaryText;
     const Look::Color grey = Look::Color::SecondaryText;
     m_selecteFolderNameLabel =
@@ -118,8 +130,7 @@ void BRDuplicateFilesViewController::buildScreen()
         makeLabel(QStringLiteral("totalFilesCountLabel"), 20, QFont::DemiBold, dark, header);
     m_totalDupesSizeLabel =
         makeLabel(QStringLiteral("totalDupesSizeLabel"), 20, QFont::DemiBold, dark, header);
-    m_totalFilesCountLabel->setText(QStringLiteral("0"));
-    m_totalDupesSizeLabel->setText(ByteCountFormatter::binary(0));
+    showTotals(0, 0);
 
     auto *folderText = new QVBoxLayout;
     folderText->setSpacing(2);
@@ -138,10 +149,26 @@ void BRDuplicateFilesViewController::buildScreen()
     m_searchField = new QLineEdit(header);
     m_searchField->setObjectName(QStringLiteral("searchField"));
     m_searchField->setPlaceholderText(QStringLiteral("Search by name"));
+    // The placeholder goes once something is typed; the name stays.
+    m_searchField->setAccessibleName(QStringLiteral("Search by name"));
     m_searchField->setClearButtonEnabled(true);
     m_searchField->setFixedWidth(220);
-    m_searchField->addAction(QIcon::fromTheme(QStringLiteral("edit-find")),
-                             QLineEdit::LeadingPosition);
+    QAction *searchIcon = m_searchField->addAction(QIcon::fromTheme(QStringLiteral("edit-find")),
+                                                   QLineEdit::LeadingPosition);
+    // The field's two icons are buttons to assistive tools; their actions give the names.
+    searchIcon->setText(QStringLiteral("Search"));
+    searchIcon->setToolTip(QStringLiteral("Search by name"));
+    connect(searchIcon, &QAction::triggered, m_searchField,
+            [this] { m_searchField->setFocus(Qt::ShortcutFocusReason); });
+    if (auto *clearSearch =
+            m_searchField->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction"))) {
+        clearSearch->setText(QStringLiteral("Clear search"));
+        clearSearch->setToolTip(QStringLiteral("Clear search"));
+    }
+    // Ctrl+F reaches the search from anywhere on this screen.
+    auto *find = new QShortcut(QKeySequence::Find, this);
+    find->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(find, &QShortcut::activated, this, &BRDuplicateFilesViewController::focusSearchField);
     m_searchField->setStyleSheet(Look::StyleSheet::roundedSearchField());
     connect(m_searchField, &QLineEdit::textChanged, m_results, &DuplicateResults::search);
 
@@ -150,9 +177,9 @@ void BRDuplicateFilesViewController::buildScreen()
     headerLayout->setSpacing(12);
     headerLayout->addWidget(m_selectedFolderImageView);
     headerLayout->addLayout(folderText, 1);
-    headerLayout->addLayout(totalColumn(m_totalFilesCountLabel, QStringLiteral("Duplicate files")));
+    headerLayout->addLayout(totalColumn(m_totalFilesCountLabel, duplicateFilesCaption()));
     headerLayout->addSpacing(12);
-    headerLayout->addLayout(totalColumn(m_totalDupesSizeLabel, QStringLiteral("Reclaimable")));
+    headerLayout->addLayout(totalColumn(m_totalDupesSizeLabel, reclaimableCaption()));
     headerLayout->addSpacing(20);
     m_keepOneButton = KeepOneMenu::makeButton(
         header, QStringLiteral("each group listed"), m_openPanel != nullptr,
@@ -164,6 +191,7 @@ void BRDuplicateFilesViewController::buildScreen()
     m_model = new DuplicateTableModel(*m_results, m_results);
     m_duplicateTableView = new BRDuplicateTableView(this);
     m_duplicateTableView->setObjectName(QStringLiteral("duplicateTableView"));
+    m_duplicateTableView->setAccessibleName(QStringLiteral("Duplicates"));
     m_duplicateTableView->setModel(m_model);
     m_duplicateTableView->setItemDelegate(
         new BRDuplicateTableViewCell(*m_thumbnails, m_duplicateTableView));
@@ -715,12 +743,22 @@ void BRDuplicateFilesViewController::openURLData(int index, const QString &key)
 void BRDuplicateFilesViewController::showTotals(qint64 duplicateCount, qint64 reclaimableBytes)
 {
     m_totalFilesCountLabel->setText(QString::number(duplicateCount));
+    m_totalFilesCountLabel->setAccessibleName(duplicateFilesCaption() + QStringLiteral(": ") +
+                                              m_totalFilesCountLabel->text());
     setTotalSizeOfDuplicate(reclaimableBytes);
 }
 
 void BRDuplicateFilesViewController::setTotalSizeOfDuplicate(qint64 bytes)
 {
     m_totalDupesSizeLabel->setText(ByteCountFormatter::binary(bytes));
+    m_totalDupesSizeLabel->setAccessibleName(reclaimableCaption() + QStringLiteral(": ") +
+                                             m_totalDupesSizeLabel->text());
+}
+
+void BRDuplicateFilesViewController::focusSearchField()
+{
+    m_searchField->setFocus(Qt::ShortcutFocusReason);
+    m_searchField->selectAll();
 }
 
 void BRDuplicateFilesViewController::setBottomBarControls()
@@ -792,6 +830,8 @@ void BRDuplicateFilesViewController::showPopOverView(int row)
     controller->setFileNameAndReloadData(record->fileName);
 
     auto *popover = new RowAnchoredPopover(controller, this);
+    // A screen reader says the group's name when the focus enters the popover.
+    popover->setAccessibleName(record->fileName);
     m_popover = popover;
     // Checks of copies the user can no longer see are given up; nothing moves.
     connect(popover, &RowAnchoredPopover::closed, m_removal, &CopyRemoval::stopChecks);

@@ -109,6 +109,10 @@ public:
     BRDuplicateFilePreviewViewController *previewDelegate() const;
     RowAnchoredPopover *popover() const;
     BRDuplicateSortViewController *sortViewController() const { return m_sortView; }
+    BRDuplicateTableView *duplicateTableView() const { return m_duplicateTableView; }
+    QLineEdit *searchField() const { return m_searchField; }
+    // Ctrl+F: the search field, its text selected for a new search.
+    void focusSearchField();
     BRDuplicateCancelViewController *cancelViewController() const { return m_cancelView; }
 
 protected:

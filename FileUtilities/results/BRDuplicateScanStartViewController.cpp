@@ -47,6 +47,7 @@ BRDuplicateScanStartViewController::BRDuplicateScanStartViewController(OpenPanel
 
     m_dirImageView->setFixedSize(previewSide, previewSide);
     m_dirImageView->setAlignment(Qt::AlignCenter);
+    m_dirImageView->setAccessibleName(QStringLiteral("Chosen folder"));
     m_selectedFolderNameLabel->setAlignment(Qt::AlignCenter);
     m_selectedFolderNameLabel->setTextFormat(Qt::PlainText);
     Look::setTextStyle(m_selectedFolderNameLabel, 23, QFont::Normal, Look::Color::PrimaryText);

@@ -3,6 +3,8 @@
 #include "BRDuplicateBarDivider.h"
 #include "BRDuplicateFilesViewDelegate.h"
 #include "BRDuplicateSortPopUpButton.h"
+#include "ChoiceButton.h"
+#include "ChoiceToolButton.h"
 #include "Look.h"
 
 #include <QFile>
@@ -74,7 +76,8 @@ std::optional<SubTypeImages> imagesForKey(const QString &key)
 QToolButton *makeImageButton(const QString &objectName, const QString &accessibleName,
                              QWidget *parent)
 {
-    auto *button = new QToolButton(parent);
+    // A sub-type is a choice: checked while chosen, for assistive tools.
+    auto *button = new ChoiceToolButton(parent);
     button->setObjectName(objectName);
     // The icon alone says nothing to a screen reader or a script on the accessibility bus.
     button->setAccessibleName(accessibleName);
@@ -94,6 +97,14 @@ QPushButton *makeTitleButton(const QString &objectName, QWidget *parent)
     return button;
 }
 
+QPushButton *makeChoiceButton(const QString &objectName, QWidget *parent)
+{
+    auto *button = new ChoiceButton(parent);
+    button->setObjectName(objectName);
+    button->setCursor(Qt::PointingHandCursor);
+    return button;
+}
+
 } // namespace
 
 QStringList BRDuplicateSortViewController::sortTypes()
@@ -105,7 +116,7 @@ QStringList BRDuplicateSortViewController::sortTypes()
 }
 
 BRDuplicateSortViewController::BRDuplicateSortViewController(QWidget *parent)
-    : QWidget(parent), m_allButton(makeTitleButton(QStringLiteral("allButton"), this)),
+    : QWidget(parent), m_allButton(makeChoiceButton(QStringLiteral("allButton"), this)),
       m_photoButton(makeImageButton(QStringLiteral("photoButton"), QStringLiteral("Photo"), this)),
       m_documentButton(
           makeImageButton(QStringLiteral("documentButton"), QStringLiteral("Document"), this)),
@@ -306,8 +317,10 @@ void BRDuplicateSortViewController::applyLook(const QString &key, bool selected)
     if (key == allKey) {
         applyTitle(m_allButton, QStringLiteral("All"),
                    selected ? Look::Color::DuplicatesAccent : Look::Color::SecondaryText);
+        m_allButton->setChecked(selected);
     } else if (const auto images = imagesForKey(key)) {
         QToolButton *button = imageButtonForKey(key);
+        button->setChecked(selected);
         const QString path = QStringLiteral(":/images/") +
                              (selected ? images->selected : images->unselected) +
                              QStringLiteral(".svg");

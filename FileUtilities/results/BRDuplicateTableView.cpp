@@ -4,6 +4,7 @@
 #include "BRDuplicateTableViewCustomClipView.h"
 #include "DuplicateTableModel.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 BRDuplicateTableView::BRDuplicateTableView(QWidget *parent) : QListView(parent)
@@ -13,7 +14,9 @@ BRDuplicateTableView::BRDuplicateTableView(QWidget *parent) : QListView(parent)
     // let the list lay out a hundred thousand rows without asking each one.
     setUniformItemSizes(true);
     setSelectionMode(QAbstractItemView::NoSelection);
-    setFocusPolicy(Qt::NoFocus);
+    // The list takes the keyboard like any other control: Tab reaches it, the arrows move
+    // its current row and Enter opens it.
+    setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setMouseTracking(true);
@@ -24,10 +27,43 @@ void BRDuplicateTableView::mousePressEvent(QMouseEvent *event)
 {
     QListView::mousePressEvent(event);
     const QModelIndex index = indexAt(event->position().toPoint());
-    if (!index.isValid() || !m_duplicateDelegate)
+    if (index.isValid())
+        openRow(index.row());
+}
+
+void BRDuplicateTableView::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        if (hasFocus() && currentIndex().isValid() && event->modifiers() == Qt::NoModifier) {
+            openRow(currentIndex().row());
+            event->accept();
+            return;
+        }
+        break;
+    default:
+        break;
+    }
+    QListView::keyPressEvent(event);
+}
+
+void BRDuplicateTableView::focusInEvent(QFocusEvent *event)
+{
+    QListView::focusInEvent(event);
+    // Coming back to the list, the keyboard finds the row it left, or the first.
+    if (!currentIndex().isValid() && model() && model()->rowCount() > 0)
+        setCurrentIndex(model()->index(0, 0));
+    viewport()->update();
+}
+
+void BRDuplicateTableView::openRow(int row)
+{
+    if (!m_duplicateDelegate)
         return;
     m_duplicateDelegate->closePopOver();
-    m_duplicateDelegate->showPopOverView(index.row());
+    m_duplicateDelegate->showPopOverView(row);
 }
 
 void BRDuplicateTableView::wheelEvent(QWheelEvent *event)

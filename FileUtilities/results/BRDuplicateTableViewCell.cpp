@@ -59,6 +59,8 @@ void BRDuplicateTableViewCell::paint(QPainter *painter, const QStyleOptionViewIt
         index.data(DuplicateTableModel::RowKindRole).toInt());
     if (kind != DuplicateTableModel::RowKind::Group) {
         BRNoSearchResultCell::paint(painter, option.rect, index.data(Qt::DisplayRole).toString());
+        if (option.state.testFlag(QStyle::State_HasFocus))
+            paintFocusRing(painter, option.rect);
         return;
     }
     const auto *model = qobject_cast<const DuplicateTableModel *>(index.model());
@@ -66,6 +68,20 @@ void BRDuplicateTableViewCell::paint(QPainter *painter, const QStyleOptionViewIt
     if (!record)
         return; // removed since the last reload; the next one drops the row
     paintGroup(painter, option.rect, *record, option.state.testFlag(QStyle::State_MouseOver));
+    // The keyboard's row: the list sets the focus state on its current row while it has
+    // the focus, so the ring shows exactly when the arrows and Enter act on it.
+    if (option.state.testFlag(QStyle::State_HasFocus))
+        paintFocusRing(painter, option.rect);
+}
+
+void BRDuplicateTableViewCell::paintFocusRing(QPainter *painter, const QRect &rect)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(Look::color(Look::Color::DuplicatesAccent), 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(QRectF(rect).adjusted(4, 3, -4, -3), 6, 6);
+    painter->restore();
 }
 
 QPixmap BRDuplicateTableViewCell::bulletPixmap(const QString &name, int side, qreal ratio) const

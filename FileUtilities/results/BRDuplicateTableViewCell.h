@@ -44,6 +44,7 @@ public:
 private:
     void paintGroup(QPainter *painter, const QRect &rect, const GroupRecord &record,
                     bool hovered) const;
+    static void paintFocusRing(QPainter *painter, const QRect &rect);
     QPixmap bulletPixmap(const QString &name, int side, qreal ratio) const;
 
     ThumbnailLoader &m_thumbnails;

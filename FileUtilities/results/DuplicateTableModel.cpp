@@ -3,7 +3,9 @@
 #include "BRDuplicateTableViewCell.h"
 #include "BRNoSearchResultCell.h"
 #include "BRNoSubTypeFoundCell.h"
+#include "ByteCountFormatter.h"
 #include "DuplicateResults.h"
+#include "UserLocale.h"
 
 #include <QSize>
 
@@ -73,9 +75,31 @@ QVariant DuplicateTableModel::data(const QModelIndex &index, int role) const
         if (const GroupRecord *record = recordAt(index.row()))
             return record->fileName;
         return {};
+    case Qt::AccessibleDescriptionRole:
+        if (const GroupRecord *record = recordAt(index.row()))
+            return accessibleDescription(*record);
+        return {};
     default:
         return {};
     }
+}
+
+QString DuplicateTableModel::accessibleDescription(const GroupRecord &record)
+{
+    const qsizetype copies = record.filePath.size();
+    QStringList parts;
+    parts.append(copies == 1
+                     ? QStringLiteral("1 copy")
+                     : QStringLiteral("%1 copies")
+                           .arg(UserLocale::forDisplay().toString(static_cast<qlonglong>(copies))));
+    if (!record.fileType.isEmpty())
+        parts.append(record.fileType);
+    parts.append(ByteCountFormatter::binary(record.fileSize) + QStringLiteral(" each"));
+    parts.append(ByteCountFormatter::binary(record.totalSize) + QStringLiteral(" in all"));
+    // Every copy but one can go.
+    parts.append(ByteCountFormatter::binary(qMax<qint64>(0, record.totalSize - record.fileSize)) +
+                 QStringLiteral(" reclaimable"));
+    return parts.join(QStringLiteral(", "));
 }
 
 void DuplicateTableModel::reload(bool appendedOnly)

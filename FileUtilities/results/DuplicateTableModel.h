@@ -33,6 +33,11 @@ public:
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
+    // What a group row says to a screen reader besides its name: what the row paints as
+    // the bullet's count, the kind and the two sizes, and what removing the spares frees.
+    // "3 copies, JPEG image, 2.1 MiB each, 6.3 MiB in all, 4.2 MiB reclaimable".
+    static QString accessibleDescription(const GroupRecord &record);
+
     RowKind rowKind() const;
     // The group shown in `row`, or null for a placeholder or a group that is gone.
     const GroupRecord *recordAt(int row) const;

@@ -47,6 +47,7 @@ BRAboutViewController::BRAboutViewController(Workspace &workspace, QWidget *pare
     layout->setContentsMargins(32, 24, 32, 24);
     auto *icon = new QLabel(this);
     icon->setPixmap(QIcon(QStringLiteral(":/images/quillmere.svg")).pixmap(QSize(64, 64)));
+    icon->setAccessibleName(QStringLiteral("Quillmere icon"));
     layout->addWidget(icon, 0, Qt::AlignHCenter);
     layout->addWidget(name, 0, Qt::AlignHCenter);
     layout->addWidget(m_versionLabel, 0, Qt::AlignHCenter);

@@ -4,6 +4,7 @@
 #include "BRDuplicateFilesMainViewController.h"
 #include "BRMainViewTabButton.h"
 #include "BRTabViewController.h"
+#include "ChoiceToolButton.h"
 #include "Look.h"
 
 #include <QFile>
@@ -18,7 +19,8 @@ namespace {
 QToolButton *makeImageButton(const QString &objectName, const QString &accessibleName,
                              QWidget *parent)
 {
-    auto *button = new QToolButton(parent);
+    // The tool switch is a choice of two: checked while its tool is shown.
+    auto *button = new ChoiceToolButton(parent);
     button->setObjectName(objectName);
     // The icon alone says nothing to a screen reader or a script on the accessibility bus.
     button->setAccessibleName(accessibleName);
@@ -130,8 +132,11 @@ void BRMainViewController::changeRenameButtonImageAndTitleColor()
             m_duplicateMainViewDelegate->updateDuplicateScanStatus(true);
         switchRenameTab();
         m_renameDisableStatus = false;
-    } else if (m_duplicateMainViewDelegate) {
-        m_duplicateMainViewDelegate->updateDuplicateScanStatus(false);
+    } else {
+        // The click already checked the Rename tab; the tool shown has not changed.
+        showTool(m_tabViewController->currentIndex() == BRTabViewController::duplicatesIndex);
+        if (m_duplicateMainViewDelegate)
+            m_duplicateMainViewDelegate->updateDuplicateScanStatus(false);
     }
 }
 
@@ -151,6 +156,10 @@ void BRMainViewController::showTool(bool duplicates)
                            duplicates ? selectedTitleColor() : unselectedTitleColor());
     setButtonTitleAndColor(m_renameButton, QStringLiteral("Rename"),
                            duplicates ? unselectedTitleColor() : selectedTitleColor());
+    m_duplicateButton->setChecked(duplicates);
+    m_duplicateImageButton->setChecked(duplicates);
+    m_renameButton->setChecked(!duplicates);
+    m_renameImageButton->setChecked(!duplicates);
 }
 
 void BRMainViewController::selectTabAtIndex(int index)

@@ -1,6 +1,3 @@
 #include "BRMainViewTabButton.h"
 
-BRMainViewTabButton::BRMainViewTabButton(QWidget *parent) : QPushButton(parent)
-{
-    setFlat(true);
-}
+BRMainViewTabButton::BRMainViewTabButton(QWidget *parent) : ChoiceButton(parent) {}

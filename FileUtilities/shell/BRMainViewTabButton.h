@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QPushButton>
+#include "ChoiceButton.h"
 
-// The text half of a main view tab: the title alone, no button frame.
-class BRMainViewTabButton : public QPushButton
+// The text half of a main view tab: the title alone, no button frame. Checked while its
+// tool is shown.
+class BRMainViewTabButton : public ChoiceButton
 {
     Q_OBJECT
 

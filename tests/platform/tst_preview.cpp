@@ -1,15 +1,46 @@
 #include "FilePreviewView.h"
+#include "FilesAndFoldersDialog.h"
 #include "RowAnchoredPopover.h"
 #include "TestDir.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QBuffer>
 #include <QImage>
+#include <QLineEdit>
 #include <QPointer>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThreadPool>
+#include <QTimer>
+
+// A window with a list that has the focus, and a popover with two fields beside it.
+struct Overlay
+{
+    QWidget window;
+    QLineEdit *list = new QLineEdit(&window);
+    QWidget *owner = new QWidget(&window);
+    QWidget *content = new QWidget;
+    QLineEdit *first = new QLineEdit(content);
+    QLineEdit *second = new QLineEdit(content);
+    QPointer<RowAnchoredPopover> popover;
+
+    Overlay()
+    {
+        window.resize(500, 400);
+        list->setGeometry(10, 10, 100, 30);
+        owner->setGeometry(0, 50, 500, 350);
+        content->setFixedSize(200, 120);
+        first->setGeometry(10, 10, 150, 30);
+        second->setGeometry(10, 60, 150, 30);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        list->setFocus();
+        popover = new RowAnchoredPopover(content, owner);
+        popover->setAccessibleName(QStringLiteral("beach.jpg"));
+    }
+};
 
 // The preview square of the detail popover, and the popover that carries it.
 class tst_Preview : public QObject
@@ -124,18 +155,19 @@ private Q_SLOTS:
     {
         QFETCH(bool, nearRightEdge);
         QFETCH(int, preferredEdge);
-        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
         QWidget view;
-        view.setGeometry(available);
+        view.setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
         view.show();
         QVERIFY(QTest::qWaitForWindowExposed(&view));
+        // The popover stands inside the window, and is placed in its coordinates.
+        const QRect available(QPoint(), view.size());
         auto *content = new QWidget;
         content->setFixedSize(300, 200);
         QPointer<RowAnchoredPopover> popover = new RowAnchoredPopover(content, &view);
         const QRect row(nearRightEdge ? available.width() - 120 : 10, 40, 100, 30);
         popover->showRelativeToRect(row, &view, static_cast<Qt::Edge>(preferredEdge));
 
-        const QRect anchor(view.mapToGlobal(row.topLeft()), row.size());
+        const QRect anchor = row;
         const QRect frame = popover->geometry();
         QTEST(int(popover->shownEdge()), "shownEdge");
         if (popover->shownEdge() == Qt::RightEdge)
@@ -166,8 +198,8 @@ private Q_SLOTS:
         QPointer<RowAnchoredPopover> popover = new RowAnchoredPopover(content, &view);
         QSignalSpy closed(popover.data(), &RowAnchoredPopover::closed);
         popover->showRelativeToRect(QRect(10, 150, 100, 30), &view, Qt::RightEdge);
-        // A row in the middle of the screen: the popover is centred on it.
-        const QRect anchor(view.mapToGlobal(QPoint(10, 150)), QSize(100, 30));
+        // A row in the middle of the window: the popover is centred on it.
+        const QRect anchor(QPoint(10, 150), QSize(100, 30));
         QVERIFY(qAbs(popover->geometry().center().y() - anchor.center().y()) <= 1);
         if (byEscape)
             QTest::keyClick(popover, Qt::Key_Escape);
@@ -176,6 +208,128 @@ private Q_SLOTS:
         QCOMPARE(closed.count(), 1);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(popover.isNull());
+    }
+
+    void popoverIsANamedDialogInItsWindow()
+    {
+        QAccessible::setActive(true);
+        Overlay overlay;
+        QVERIFY(QTest::qWaitForWindowActive(&overlay.window));
+        overlay.popover->showRelativeToRect(QRect(10, 10, 100, 30), overlay.list, Qt::RightEdge);
+        // An overlay of the window, not a window of its own, so readers find it there.
+        QVERIFY(!overlay.popover->isWindow());
+        QCOMPARE(overlay.popover->parentWidget(), &overlay.window);
+        QVERIFY(QRect(QPoint(), overlay.window.size()).contains(overlay.popover->geometry()));
+        QAccessibleInterface *node = QAccessible::queryAccessibleInterface(overlay.popover);
+        QCOMPARE(node->role(), QAccessible::Dialog);
+        QCOMPARE(node->text(QAccessible::Name), QStringLiteral("beach.jpg"));
+        QAccessibleInterface *window = QAccessible::queryAccessibleInterface(&overlay.window);
+        QVERIFY(window->indexOfChild(node) >= 0);
+    }
+
+    void popoverKeepsAndReturnsTheFocus_data()
+    {
+        QTest::addColumn<int>("way"); // 0 Escape, 1 owner's close(), 2 Escape from outside
+        QTest::newRow("Escape") << 0;
+        QTest::newRow("closed by its owner") << 1;
+        QTest::newRow("Escape with the focus left outside") << 2;
+    }
+    void popoverKeepsAndReturnsTheFocus()
+    {
+        QFETCH(int, way);
+        Overlay overlay;
+        QVERIFY(QTest::qWaitForWindowActive(&overlay.window));
+        QVERIFY(overlay.list->hasFocus());
+        QSignalSpy closed(overlay.popover.data(), &RowAnchoredPopover::closed);
+        overlay.popover->showRelativeToRect(QRect(10, 10, 100, 30), overlay.list, Qt::RightEdge);
+        QCOMPARE(QApplication::focusWidget(), overlay.first);
+        // Tab goes round inside, both ways.
+        QTest::keyClick(overlay.first, Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), overlay.second);
+        QTest::keyClick(overlay.second, Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), overlay.first);
+        QTest::keyClick(overlay.first, Qt::Key_Backtab);
+        QCOMPARE(QApplication::focusWidget(), overlay.second);
+
+        if (way == 0) {
+            QTest::keyClick(overlay.second, Qt::Key_Escape);
+        } else if (way == 1) {
+            overlay.popover->close();
+        } else {
+            overlay.list->setFocus();
+            QTest::keyClick(overlay.list, Qt::Key_Escape);
+        }
+        QCOMPARE(closed.count(), 1);
+        QCOMPARE(QApplication::focusWidget(), overlay.list);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(overlay.popover.isNull());
+    }
+
+    void popoverGoesWithItsOwner()
+    {
+        Overlay overlay;
+        QVERIFY(QTest::qWaitForWindowExposed(&overlay.window));
+        QSignalSpy closed(overlay.popover.data(), &RowAnchoredPopover::closed);
+        overlay.popover->showRelativeToRect(QRect(10, 10, 100, 30), overlay.list, Qt::RightEdge);
+        // Another screen takes the owner's place: the popover does not stay over it.
+        overlay.owner->hide();
+        QCOMPARE(closed.count(), 1);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(overlay.popover.isNull());
+
+        Overlay again;
+        again.popover->showRelativeToRect(QRect(10, 10, 100, 30), again.list, Qt::RightEdge);
+        delete again.owner;
+        QVERIFY(again.popover.isNull());
+    }
+
+    void foldersAndFilesChosenTogether_data()
+    {
+        QTest::addColumn<bool>("foldersChoosable");
+        QTest::addColumn<QStringList>("highlighted");
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("a folder") << true << QStringList{QStringLiteral("pics")} << true;
+        QTest::newRow("a file") << true << QStringList{QStringLiteral("a.txt")} << true;
+        QTest::newRow("a file and a folder")
+            << true << QStringList{QStringLiteral("a.txt"), QStringLiteral("pics")} << true;
+        QTest::newRow("files only: a folder is entered")
+            << false << QStringList{QStringLiteral("pics")} << false;
+        QTest::newRow("a name that is not there")
+            << true << QStringList{QStringLiteral("gone.txt")} << false;
+    }
+    void foldersAndFilesChosenTogether()
+    {
+        QFETCH(bool, foldersChoosable);
+        QFETCH(QStringList, highlighted);
+        m_dir.createFile(QStringLiteral("chooser/a.txt"), "a");
+        m_dir.createDir(QStringLiteral("chooser/pics"));
+        const QString folder = m_dir.filePath(QStringLiteral("chooser"));
+        FilesAndFoldersDialog dialog(nullptr, QStringLiteral("Choose files to rename"), folder);
+        dialog.setFoldersChoosable(foldersChoosable);
+        // A message box about a missing name would wait for an answer.
+        QTimer::singleShot(0, &dialog, [] {
+            if (QWidget *box = QApplication::activeModalWidget();
+                box && !qobject_cast<QFileDialog *>(box))
+                box->close();
+        });
+        dialog.open();
+        QString text;
+        for (const QString &name : highlighted)
+            text += QLatin1Char('"') + name + QStringLiteral("\" ");
+        dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(text.trimmed());
+        dialog.accept();
+        QFETCH(bool, accepted);
+        QCOMPARE(dialog.result() == QDialog::Accepted, accepted);
+        if (accepted) {
+            QStringList expected;
+            for (const QString &name : highlighted)
+                expected.append(folder + QLatin1Char('/') + name);
+            QStringList chosen = dialog.selectedFiles();
+            chosen.sort();
+            expected.sort();
+            QCOMPARE(chosen, expected);
+        }
+        dialog.close();
     }
 };
 

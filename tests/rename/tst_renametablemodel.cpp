@@ -59,6 +59,27 @@ private Q_SLOTS:
         QCOMPARE(folder.data(RenameTableModel::DestinationRole).toString(), u"Bee"_s);
     }
 
+    void rowsSayTheirNamesToAssistiveTools()
+    {
+        RenameList list;
+        list.add({file(u"/tmp/a.txt"_s), file(u"/tmp/b.txt"_s), file(u"/tmp/c.txt"_s)});
+        RenameTableModel model;
+        model.setList(&list);
+        const auto spoken = [&model](int row) {
+            const QModelIndex index = model.index(row, 0);
+            return index.data(Qt::AccessibleTextRole).toString() + u" | "_s +
+                   index.data(Qt::AccessibleDescriptionRole).toString();
+        };
+        QCOMPARE(spoken(0), u"a.txt | No new name"_s);
+        list.setFullNameRule(u"Trip"_s, u"1"_s, NamePlacement::AfterName);
+        QTRY_VERIFY(!list.ruleRunPending());
+        list.setHandName(1, u"Bee"_s);
+        QCOMPARE(spoken(0), u"a.txt | New name: Trip1"_s);
+        QCOMPARE(spoken(1), u"b.txt | New name, typed: Bee"_s);
+        list.clearRule();
+        QCOMPARE(spoken(2), u"c.txt | No new name"_s);
+    }
+
     void viewsStartOverOnlyWhenRowsComeOrGo()
     {
         RenameList list;

@@ -92,7 +92,9 @@ private Q_SLOTS:
         QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, row.center());
         QTRY_VERIFY(results->popover() && results->popover()->isVisible());
         // No room at either end of a row as wide as the list: it opens below, not over it.
-        const QRect rowOnScreen(table->viewport()->mapToGlobal(row.topLeft()), row.size());
+        // Both in the window, where the popover stands.
+        const QRect rowOnScreen(table->viewport()->mapTo(table->window(), row.topLeft()),
+                                row.size());
         QVERIFY(!results->popover()->geometry().intersects(rowOnScreen));
         BRDuplicateFilePreviewViewController *detail = results->previewDelegate();
         QCOMPARE(detail->dupePreviewTableView()->numberOfRows(), 3);

@@ -146,6 +146,35 @@ private Q_SLOTS:
         QCOMPARE(list.data(0, DuplicateTableModel::KeyRole).toString(), QString());
         QCOMPARE(list.model.recordAt(0), nullptr);
     }
+
+    void groupRowsSayWhatTheyPaint_data()
+    {
+        QTest::addColumn<GroupRecord>("record");
+        QTest::addColumn<QString>("description");
+        QTest::newRow("three photos")
+            << GroupRecord{u"beach.jpg"_s, 2'200'000, u"JPEG image"_s, {u"/a"_s, u"/b"_s, u"/c"_s},
+                           u"k"_s,         {},        u"image/jpeg"_s, 6'600'000}
+            << u"3 copies, JPEG image, 2.1 MiB each, 6.3 MiB in all, "
+               "4.2 MiB reclaimable"_s;
+        QTest::newRow("one copy left frees nothing")
+            << GroupRecord{u"x"_s, 512, u"Folder"_s, {u"/a"_s}, u"k"_s, {}, u"Folder"_s, 512}
+            << u"1 copy, Folder, 512 bytes each, 512 bytes in all, 0 bytes reclaimable"_s;
+        QTest::newRow("no type text, empty files")
+            << GroupRecord{u"x"_s, 0, QString(), {u"/a"_s, u"/b"_s}, u"k"_s, {}, QString(), 0}
+            << u"2 copies, 0 bytes each, 0 bytes in all, 0 bytes reclaimable"_s;
+    }
+    void groupRowsSayWhatTheyPaint()
+    {
+        QFETCH(GroupRecord, record);
+        QTEST(DuplicateTableModel::accessibleDescription(record), "description");
+
+        List list;
+        list.groups.insert(record.oldKey, record);
+        list.results.postReport({list.groups, record.oldKey, false, 3, 0});
+        list.finish();
+        QCOMPARE(list.data(0, Qt::AccessibleTextRole).toString(), record.fileName);
+        QTEST(list.data(0, Qt::AccessibleDescriptionRole).toString(), "description");
+    }
 };
 
 QTEST_MAIN(tst_DuplicateTableModel)

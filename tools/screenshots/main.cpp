@@ -16,6 +16,7 @@
 #include "BRDuplicateScanStartViewController.h"
 #include "BRDuplicateSortViewController.h"
 #include "BRDuplicateStartScanButton.h"
+#include "BRDuplicateTableView.h"
 #include "BRMainWindowController.h"
 #include "BRRenameTableView.h"
 #include "BRRenameViewController.h"
@@ -95,26 +96,15 @@ void typeInto(QWidget *field, const QString &text)
     }
 }
 
-void pressReturn(QWidget *field)
+void pressKey(QWidget *widget, Qt::Key key)
 {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QCoreApplication::sendEvent(field, &press);
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &press);
 }
 
-// A popup is a window of its own, so the screen is put together from both grabs.
-bool saveWithPopup(QWidget &window, QWidget &popup, const QString &folder, const QString &name)
+void pressReturn(QWidget *field)
 {
-    settle();
-    const QRect windowRect(window.mapToGlobal(QPoint(0, 0)), window.size());
-    const QRect popupRect = popup.geometry();
-    const QRect area = windowRect.united(popupRect).adjusted(-24, -24, 24, 24);
-    QImage screen(area.size(), QImage::Format_ARGB32_Premultiplied);
-    screen.fill(QColor(214, 218, 224));
-    QPainter painter(&screen);
-    painter.drawPixmap(windowRect.topLeft() - area.topLeft(), window.grab());
-    painter.drawPixmap(popupRect.topLeft() - area.topLeft(), popup.grab());
-    painter.end();
-    return write(screen, folder, name);
+    pressKey(field, Qt::Key_Return);
 }
 
 // A screen larger than the window, so a popover beside a row has room as on a desktop.
@@ -421,11 +411,15 @@ int main(int argc, char *argv[])
         search->insert(letter);
     ok &= save(window, output, u"8-duplicates-results"_s);
 
-    results->showPopOverView(0);
-    if (RowAnchoredPopover *popover = results->popover())
-        ok &= saveWithPopup(window, *popover, output, u"9-duplicates-popover"_s);
-    else
-        ok = false;
+    // The keyboard's row: the list has the focus and the second row is current.
+    BRDuplicateTableView *list = results->duplicateTableView();
+    list->setFocus(Qt::TabFocusReason);
+    pressKey(list, Qt::Key_Down);
+    ok &= save(window, output, u"8a-duplicates-keyboard-focus"_s);
+
+    // Enter opens the current row's detail, inside the window.
+    pressKey(list, Qt::Key_Return);
+    ok &= results->popover() != nullptr && save(window, output, u"9-duplicates-popover"_s);
     results->closePopOver();
 
     // A copy being checked before it goes: the Trash holds it until the shot is taken.
@@ -527,10 +521,7 @@ int main(int argc, char *argv[])
 
     renamer->showPopOver(1);
     settle(600);
-    if (RowAnchoredPopover *popover = renamer->popover())
-        ok &= saveWithPopup(window, *popover, output, u"13-rename-popover"_s);
-    else
-        ok = false;
+    ok &= renamer->popover() != nullptr && save(window, output, u"13-rename-popover"_s);
     renamer->closePopOver();
 
     window.findChild<QPushButton *>(u"renameButton"_s)->click();
