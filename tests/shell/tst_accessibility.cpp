@@ -109,7 +109,7 @@ QAccessibleInterface *interfaceOf(QObject *object)
 GroupRecord groupOf(const QString &name, qint64 size, const QString &type, const QString &uti,
                     const QStringList &paths)
 {
-    return GroupRecord{name, size, type, paths, name, {}, uti, size * paths.size()};
+    return GroupRecord{name, size, type, paths, name, {}, uti, size * paths.size(), {}};
 }
 
 void settle()
