@@ -7,6 +7,7 @@
 #include <QEnterEvent>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
@@ -65,6 +66,8 @@ BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget
       m_sameFileLabel(makeRowLabel(QStringLiteral("sameFileLabel"), 11, this))
 {
     setObjectName(QStringLiteral("dupeFilePreviewCell"));
+    // A row is a stop for the keyboard: Delete removes its copy, Ctrl+Enter shows it.
+    setFocusPolicy(Qt::StrongFocus);
     m_serialLabel->setFixedWidth(24);
     m_serialLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
 
@@ -223,9 +226,48 @@ void BRDuplicateFilePreviewTableViewCell::showEvent(QShowEvent *event)
     setHovered(rect().contains(mapFromGlobal(QCursor::pos())));
 }
 
+void BRDuplicateFilePreviewTableViewCell::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
+        // The last copy of a group has no button, and a copy being checked has none either.
+        if (!m_deleteButton->isHidden())
+            m_deleteButton->click();
+    } else if (enter && (event->modifiers() & Qt::ControlModifier)) {
+        Q_EMIT revealRequested();
+    } else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+        Q_EMIT stepRequested(event->key() == Qt::Key_Up ? -1 : 1);
+    } else {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+}
+
+void BRDuplicateFilePreviewTableViewCell::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    setHovered(true);
+    update();
+}
+
+void BRDuplicateFilePreviewTableViewCell::focusOutEvent(QFocusEvent *event)
+{
+    QWidget::focusOutEvent(event);
+    setHovered(rect().contains(mapFromGlobal(QCursor::pos())));
+    update();
+}
+
 void BRDuplicateFilePreviewTableViewCell::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    if (hasFocus()) {
+        // The keyboard's row, drawn as the platform draws a focused control.
+        QPen ring(palette().color(QPalette::Highlight), 2);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(ring);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    }
     painter.setPen(Look::color(Look::Color::RowSeparator));
     painter.drawLine(QPoint(m_pathLabel->x(), height() - 1), QPoint(width() - 1, height() - 1));
 }

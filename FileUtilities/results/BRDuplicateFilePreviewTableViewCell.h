@@ -51,6 +51,13 @@ public:
     void setSameFileAs(int serial);
     QLabel *sameFileLabel() const { return m_sameFileLabel; }
 
+Q_SIGNALS:
+    // Ctrl+Enter on the row: show its copy in the file manager.
+    void revealRequested();
+    // Up or Down on the row: the focus goes to the row `delta` away.
+    void stepRequested(int delta);
+
+public:
     static QFont pathFont();
     static QColor pathColor();
     static QColor hoverPathColor();
@@ -62,6 +69,9 @@ protected:
     void leaveEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     void setHovered(bool hovered);

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QTextDocument>
+#include <QTextEdit>
 #include <QTextOption>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -237,6 +238,7 @@ BRDuplicateFilePreviewTableViewCell *BRDuplicateFilePreviewViewController::viewF
                                                 ? getModifiedDateFromPath(m_filePaths.at(row))
                                                 : std::nullopt;
     const auto record = m_key ? m_fileInfo.constFind(*m_key) : m_fileInfo.constEnd();
+    const QString path = row >= 0 && row < m_filePaths.size() ? m_filePaths.at(row) : QString();
     if (modified && record != m_fileInfo.constEnd()) {
         // Every row shows the size of one copy, as the group's record holds it.
         cell->byteSizeLabel()->setText(getSizeInBytes(record->fileSize));
@@ -245,6 +247,17 @@ BRDuplicateFilePreviewTableViewCell *BRDuplicateFilePreviewViewController::viewF
         cell->byteSizeLabel()->setText(QStringLiteral("Not Available"));
         cell->modifiedDateLabel()->setText(QString());
     }
+    // What a screen reader says of the row: which copy, where, and what the row shows.
+    QStringList details{cell->byteSizeLabel()->text()};
+    if (!cell->modifiedDateLabel()->text().isEmpty())
+        details.append(cell->modifiedDateLabel()->text());
+    if (cell->isChecking())
+        details.append(cell->checkingLabel()->text());
+    if (!cell->sameFileLabel()->isHidden())
+        details.append(cell->sameFileLabel()->text());
+    cell->setAccessibleName(QStringLiteral("Copy %1: %2").arg(row + 1).arg(path));
+    cell->setAccessibleDescription(details.join(QStringLiteral(", ")));
+    cell->pathLabel()->setAccessibleName(path);
     return cell;
 }
 
@@ -258,6 +271,16 @@ void BRDuplicateFilePreviewViewController::reloadData()
         cells.append(cell);
     }
     m_dupePreviewTableView->setRows(cells);
+    // Tab goes through the copies and their buttons first, the title's button last.
+    QWidget *previous = nullptr;
+    for (BRDuplicateFilePreviewTableViewCell *cell : std::as_const(cells)) {
+        if (previous)
+            QWidget::setTabOrder(previous, cell);
+        QWidget::setTabOrder(cell, cell->deleteButton());
+        previous = cell->deleteButton();
+    }
+    if (previous)
+        QWidget::setTabOrder(previous, m_keepOneButton);
     // Offered once the scan has ended, for a group with copies to spare.
     m_keepOneButton->setVisible(m_scanStatus && m_filePaths.size() > 1);
 }

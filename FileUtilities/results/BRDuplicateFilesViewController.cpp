@@ -3,6 +3,7 @@
 #include "AlertPresenter.h"
 #include "ApplicationStatus.h"
 #include "BRDuplicateCancelViewController.h"
+#include "BRDuplicateFilePreviewTableViewCell.h"
 #include "BRDuplicateFilePreviewViewController.h"
 #include "BRDuplicateFilesMainViewDelegate.h"
 #include "BRDuplicateSortAndCancelTabViewController.h"
@@ -837,6 +838,9 @@ void BRDuplicateFilesViewController::showPopOverView(int row)
     connect(popover, &RowAnchoredPopover::closed, m_removal, &CopyRemoval::stopChecks);
     const QRect rowRect = m_duplicateTableView->visualRect(m_model->index(row));
     popover->showRelativeToRect(rowRect, m_duplicateTableView->viewport(), Qt::RightEdge);
+    // The keyboard starts on the first copy, where Delete and Ctrl+Enter act.
+    if (QWidget *first = controller->cellAt(0))
+        first->setFocus(Qt::PopupFocusReason);
 }
 
 void BRDuplicateFilesViewController::closePopOver()

@@ -4,6 +4,7 @@
 #include "BRDuplicateFilePreviewTableCustomClipView.h"
 #include "BRDuplicateFilePreviewTableViewCell.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -13,6 +14,9 @@ BRDuplicatePopOverTableView::BRDuplicatePopOverTableView(QWidget *parent)
       m_rowLayout(new QVBoxLayout(m_rowContainer))
 {
     setObjectName(QStringLiteral("dupePreviewTableView"));
+    setAccessibleName(QStringLiteral("Copies"));
+    // The rows take the focus, one by one; the list around them does not.
+    setFocusPolicy(Qt::NoFocus);
     setViewport(new BRDuplicateFilePreviewTableCustomClipView(this));
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -33,11 +37,20 @@ BRDuplicateFilePreviewTableViewCell *BRDuplicatePopOverTableView::makeView()
 {
     auto *cell = new BRDuplicateFilePreviewTableViewCell(m_rowContainer);
     cell->hide();
+    connect(cell, &BRDuplicateFilePreviewTableViewCell::revealRequested, this, [this, cell] {
+        if (m_previewDelegate)
+            m_previewDelegate->openURL(rowForView(cell));
+    });
+    connect(cell, &BRDuplicateFilePreviewTableViewCell::stepRequested, this,
+            [this, cell](int delta) { focusRow(rowForView(cell) + delta); });
     return cell;
 }
 
 void BRDuplicatePopOverTableView::setRows(const QList<BRDuplicateFilePreviewTableViewCell *> &cells)
 {
+    // The keyboard stays on the same place in the list when its rows are made anew, as
+    // when the copy it was on has gone.
+    const int focusedRow = rowForView(QApplication::focusWidget());
     for (BRDuplicateFilePreviewTableViewCell *old : std::as_const(m_rows)) {
         m_rowLayout->removeWidget(old);
         old->hide();
@@ -50,6 +63,17 @@ void BRDuplicatePopOverTableView::setRows(const QList<BRDuplicateFilePreviewTabl
         m_rowLayout->insertWidget(static_cast<int>(row), cell);
         cell->show();
     }
+    if (focusedRow >= 0)
+        focusRow(std::min(focusedRow, static_cast<int>(m_rows.size()) - 1));
+}
+
+void BRDuplicatePopOverTableView::focusRow(int row)
+{
+    BRDuplicateFilePreviewTableViewCell *cell = viewAtRow(row);
+    if (!cell)
+        return;
+    cell->setFocus(Qt::OtherFocusReason);
+    ensureWidgetVisible(cell);
 }
 
 BRDuplicateFilePreviewTableViewCell *BRDuplicatePopOverTableView::viewAtRow(int row) const

@@ -35,6 +35,8 @@ public:
     int rowForView(const QWidget *view) const;
     // The row under `point` of the viewport, or -1.
     int rowAtPoint(const QPoint &point) const;
+    // Gives the keyboard to `row` and scrolls it into view.
+    void focusRow(int row);
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;

@@ -1,6 +1,7 @@
 // What a screen reader finds in the main screens, and what the keyboard alone can do there.
 #include "ApplicationStatus.h"
 #include "BRAboutViewController.h"
+#include "BRDuplicateFilePreviewTableViewCell.h"
 #include "BRDuplicateFilePreviewViewController.h"
 #include "BRDuplicateFilesMainViewController.h"
 #include "BRDuplicateFilesViewController.h"
@@ -399,6 +400,42 @@ private Q_SLOTS:
         list->setFocus(Qt::TabFocusReason);
         QTest::keyClick(list, Qt::Key_F, Qt::ControlModifier);
         QCOMPARE(QApplication::focusWidget(), window.results()->searchField());
+    }
+
+    // Inside the detail: the first copy has the keyboard, arrows move between copies,
+    // Delete removes the focused one and Ctrl+Enter shows it (both find these copies gone
+    // from disk, which is said), and each row tells a screen reader which copy it is.
+    void theDetailByKeyboard()
+    {
+        Window window;
+        QVERIFY(QTest::qWaitForWindowExposed(&window.main));
+        QVERIFY(window.activate());
+        window.showResults();
+        BRDuplicateTableView *list = window.results()->duplicateTableView();
+        list->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(list, Qt::Key_Return);
+        BRDuplicateFilePreviewViewController *detail = window.results()->previewDelegate();
+        QVERIFY(detail);
+        const QString key = *detail->key();
+        QCOMPARE(QApplication::focusWidget(), detail->cellAt(0));
+        QCOMPARE(detail->cellAt(0)->accessibleName(),
+                 u"Copy 1: "_s + window.groups.find(key)->filePath.at(0));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QCOMPARE(QApplication::focusWidget(), detail->cellAt(1));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+        QCOMPARE(QApplication::focusWidget(), detail->cellAt(0));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+
+        window.alerts.shown.clear();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
+        settle();
+        QCOMPARE(window.results()->results().groups().find(key)->filePath.size(),
+                 window.groups.find(key)->filePath.size() - 1);
+        QCOMPARE(window.alerts.shown.size(), 1);
+        QCOMPARE(window.alerts.shown[0].title, u"File does not exist"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return, Qt::ControlModifier);
+        settle();
+        QCOMPARE(window.alerts.shown.size(), 2);
     }
 
     void renameByKeyboard()
