@@ -473,6 +473,29 @@ int main(int argc, char *argv[])
         }
     }
 
+    // Keep one, trash the rest, over the groups listed: the question first, then the
+    // summary, each as the desktop shows it.
+    {
+        alerts.shown.clear();
+        alerts.answers = {AlertPresenter::firstButton};
+        results->keepOneCopyOfGroupsOnScreen(KeepOnePlan::Rule::Oldest);
+        while (results->isKeepingOne())
+            settle(20);
+        settle();
+        const QStringList shots{u"9i-keep-one-question"_s, u"9j-keep-one-summary"_s};
+        QtAlertPresenter presenter(&window);
+        for (qsizetype i = 0; i < shots.size() && i < alerts.shown.size(); ++i) {
+            QTimer::singleShot(300, [&, shot = shots.at(i)] {
+                if (QWidget *box = QApplication::activeModalWidget()) {
+                    ok &= save(*box, output, shot);
+                    box->close();
+                }
+            });
+            presenter.runModal(alerts.shown.at(i));
+        }
+        ok &= alerts.shown.size() == 2;
+    }
+
     // A new scan, of a folder with nothing in it.
     results->sortViewController()->newScanButton()->click();
     settle();
