@@ -68,6 +68,7 @@ BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget
     setObjectName(QStringLiteral("dupeFilePreviewCell"));
     // A row is a stop for the keyboard: Delete removes its copy, Ctrl+Enter shows it.
     setFocusPolicy(Qt::StrongFocus);
+    setProperty("drawsOwnFocus", true);
     m_serialLabel->setFixedWidth(24);
     m_serialLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
 
@@ -263,7 +264,7 @@ void BRDuplicateFilePreviewTableViewCell::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (hasFocus()) {
         // The keyboard's row, drawn as the platform draws a focused control.
-        QPen ring(palette().color(QPalette::Highlight), 2);
+        QPen ring(Look::color(Look::Color::DuplicatesAccent), 2);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(ring);
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);

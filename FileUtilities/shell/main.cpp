@@ -3,6 +3,7 @@
 #include "BRMainWindowController.h"
 #include "BRRenameViewController.h"
 #include "DesktopWorkspace.h"
+#include "FocusRing.h"
 #include "QtAlertPresenter.h"
 #include "QtOpenPanel.h"
 #include "RenameList.h"
@@ -23,6 +24,9 @@ int main(int argc, char *argv[])
     // Outside a desktop session Qt knows no icon theme; the installed Adwaita stands in,
     // so file types and the search field still get their icons.
     QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
+
+    // Where the keyboard is, in every window, for the controls that do not mark it.
+    FocusRing focusRing(&application);
 
     QSettings settings;
     QtAlertPresenter alerts;
