@@ -15,6 +15,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -178,6 +179,66 @@ DirectoryEnumerator::readFolder(int fd, const QByteArray &nativePath, const QStr
     return folder;
 }
 
+int DirectoryEnumerator::heldDescriptorBound()
+{
+    // A quarter of what the process may open, within sane limits.
+    static const int bound = [] {
+        struct rlimit limit = {};
+        if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY)
+            return 256;
+        return static_cast<int>(std::clamp<rlim_t>(limit.rlim_cur / 4, 4, 256));
+    }();
+    return bound;
+}
+
+void DirectoryEnumerator::limitHeldDescriptors()
+{
+    int held = 0;
+    for (const OpenFolder &open : m_openFolders)
+        held += open.descriptor >= 0 ? 1 : 0;
+    for (OpenFolder &open : m_openFolders) {
+        if (held <= heldDescriptorBound())
+            break;
+        if (open.descriptor >= 0) {
+            ::close(std::exchange(open.descriptor, -1));
+            --held;
+        }
+    }
+}
+
+void DirectoryEnumerator::reopen(size_t level)
+{
+    size_t from = level;
+    while (from > 0 && m_openFolders[from - 1].descriptor < 0)
+        --from;
+    // `from` is the first closed level; the one above it is open, or there is none.
+    int fd = -1;
+    if (from == 0) {
+        fd = ::open(m_openFolders[0].nativePath.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (fd < 0)
+            return;
+        m_openFolders[0].descriptor = fd;
+        from = 1;
+    }
+    for (size_t at = from; at <= level; ++at) {
+        const QByteArray &path = m_openFolders[at].nativePath;
+        const QByteArray name = path.mid(path.lastIndexOf('/') + 1);
+        const int parent = m_openFolders[at - 1].descriptor;
+        const int opened =
+            ::openat(parent, name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        // Only the folder asked for keeps its descriptor; the ones on the way close again.
+        if (at - 1 >= from && at - 1 != level)
+            ::close(std::exchange(m_openFolders[at - 1].descriptor, -1));
+        if (opened < 0) {
+            qCDebug(platformLog).noquote()
+                << "cannot open" << m_openFolders[at].path << "again:" << errorText(errno);
+            return;
+        }
+        m_openFolders[at].descriptor = opened;
+    }
+    limitHeldDescriptors();
+}
+
 std::optional<DirectoryEntry> DirectoryEnumerator::nextEntry()
 {
     if (m_folderToEnter) {
@@ -199,8 +260,10 @@ std::optional<DirectoryEntry> DirectoryEnumerator::nextEntry()
         if (fd < 0)
             qCDebug(platformLog).noquote()
                 << "passed over the contents of" << target.path << ":" << errorText(errno);
-        if (auto folder = readFolder(fd, target.nativePath, target.path))
+        if (auto folder = readFolder(fd, target.nativePath, target.path)) {
             m_openFolders.push_back(std::move(*folder));
+            limitHeldDescriptors();
+        }
     }
 
     while (!m_openFolders.empty()) {
@@ -209,6 +272,8 @@ std::optional<DirectoryEntry> DirectoryEnumerator::nextEntry()
             m_openFolders.pop_back();
             continue;
         }
+        if (folder.descriptor < 0 && !m_openFolders.empty())
+            reopen(m_openFolders.size() - 1);
         const ListedEntry &listed = folder.entries[folder.next++];
         const char *rawName = folder.names.constData() + listed.nameOffset;
         DirectoryEntry entry;

@@ -15,8 +15,11 @@
 // UTF-8 is passed over, since it could not be named again exactly from a QString.
 //
 // Each folder is read whole when the walk enters it. Its descriptor stays open while the
-// walk is inside it, so that subfolders open by name relative to it rather than by a
-// full path; where descriptors run short, a subfolder opens by its full path instead.
+// walk is inside it, so that subfolders and files open by name relative to it rather than
+// by a full path, which may be longer than the system takes. Only the innermost folders
+// keep theirs, a bounded number whatever the depth, so a deep tree never starves the rest
+// of the program of descriptors; the walk opens an outer folder again, one name at a
+// time down from the nearest folder still open, when it comes back to it.
 class DirectoryEnumerator
 {
 public:
@@ -55,6 +58,12 @@ private:
     };
 
     DirectoryEnumerator() = default;
+    // Closes the outermost descriptors beyond the bound.
+    void limitHeldDescriptors();
+    // Gives the folder at `level` its descriptor again, opened name by name from the
+    // nearest open folder above it (or from the root).
+    void reopen(size_t level);
+    static int heldDescriptorBound();
     static std::optional<OpenFolder> readFolder(int descriptor, const QByteArray &nativePath,
                                                 const QString &path);
 

@@ -3,7 +3,10 @@
 #include "ScanLog.h"
 #include "ThumbnailCache.h"
 
+#include <QFile>
 #include <QMutexLocker>
+
+#include <climits>
 
 namespace {
 
@@ -35,6 +38,7 @@ void BRDuplicateFinderClass::clearScanData()
     m_dict.clear();
     m_fileDict.clear();
     m_stackOfArray.items.clear();
+    m_longPathFingerprints.clear();
 }
 
 std::optional<DirectoryEnumerator>
@@ -69,6 +73,9 @@ QString BRDuplicateFinderClass::deletingLastPathComponent(const QString &path)
 
 void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
 {
+    // The type database reads its files on first use. Used first deep inside a tree, it
+    // would compete with the walk for descriptors, and a failed load names no type at all.
+    m_types.typeForFileName(QStringLiteral("load.txt"));
     auto enumerator = directoryEnumeratorForPath(path);
     if (!enumerator) {
         qCWarning(scanLog).noquote() << "cannot walk" << path << "- the scan finds nothing";
@@ -115,6 +122,7 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
         }
 
         const qint64 size = entry->size;
+        rememberFingerprintOfLongPath(*entry);
         recordFileInFolder(parent, *entry);
         if (previousFolderPath) {
             if (pathContains(entryPath, *previousFolderPath)) {
@@ -141,7 +149,7 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
 void BRDuplicateFinderClass::takeFirstHash(FolderRecord &record)
 {
     for (const QString &path : std::as_const(record.unhashedFiles)) {
-        const QString hash = m_oshash.hashForFileAtPath(path).fileHash;
+        const QString hash = fingerprintOfPath(path).fileHash;
         if (!hash.isEmpty()) {
             record.firstHash = hash;
             record.lastHash = hash;
@@ -162,6 +170,26 @@ VideoHash BRDuplicateFinderClass::fingerprintOf(const DirectoryEntry &file)
     if (hash.fileHash.isEmpty())
         qCDebug(scanLog).noquote() << "no fingerprint of" << file.path << ": it cannot be read";
     return hash;
+}
+
+VideoHash BRDuplicateFinderClass::fingerprintOfPath(const QString &path)
+{
+    if (const auto kept = m_longPathFingerprints.constFind(path);
+        kept != m_longPathFingerprints.constEnd())
+        return *kept;
+    return m_oshash.hashForFileAtPath(path);
+}
+
+// A path too long for the system to open whole can still be opened inside its folder, but
+// only while the walk is there; its fingerprint is taken then, for whoever asks later.
+void BRDuplicateFinderClass::rememberFingerprintOfLongPath(const DirectoryEntry &file)
+{
+    // UTF-8 takes at most three bytes for one UTF-16 unit: shorter paths always fit.
+    if (!file.isRegularFile() || file.path.size() * 3 < PATH_MAX)
+        return;
+    if (QFile::encodeName(file.path).size() < PATH_MAX)
+        return;
+    m_longPathFingerprints.insert(file.path, fingerprintOf(file));
 }
 
 // Counts a file in its folder's record. The folder's first fingerprint is that of its
@@ -212,7 +240,7 @@ void BRDuplicateFinderClass::checkForDuplicateFile(const DirectoryEntry &entry, 
 
     // Each newcomer is compared with the bucket's first file only, and fingerprints are
     // taken anew each time: they are cheap, and caching them would cost memory per file.
-    const VideoHash reference = m_oshash.hashForFileAtPath(paths.first());
+    const VideoHash reference = fingerprintOfPath(paths.first());
     const VideoHash candidate = fingerprintOf(entry);
     // Two files that could not be read are not known to be equal.
     if (candidate.fileHash.isEmpty() || reference.fileHash != candidate.fileHash)
@@ -297,15 +325,11 @@ void BRDuplicateFinderClass::checkForDuplicateFolder(const StackEntry &folder,
     if (record.fileCount == 0) {
         key = QString::number(folderSize) + u'0';
     } else {
+        // A last file that gives no fingerprint (a link, a FIFO, a file that cannot be read)
+        // puts an empty one into the key: folders are told apart by the key alone, so two
+        // copies of a folder that ends in a link still match.
         if (record.fileCount > 1)
-            record.lastHash = m_oshash.hashForFileAtPath(lastFilePath).fileHash;
-        // As with files, a fingerprint that could not be taken matches nothing: a folder
-        // whose sum rests on an unreadable file is not compared.
-        const bool lastFileUnreadable =
-            record.fileCount > 1 && !lastFilePath.isEmpty() && record.lastHash.isEmpty();
-        const bool onlyFileUnreadable = record.fileCount == 1 && record.firstHash.isEmpty();
-        if (lastFileUnreadable || onlyFileUnreadable)
-            return;
+            record.lastHash = fingerprintOfPath(lastFilePath).fileHash;
         record.fileSize += folderSize;
         *found = record;
         key = QString::number(folderSize) + QString::number(record.fileCount) + record.firstHash +

@@ -100,6 +100,10 @@ private:
                                const QString &fileUTI, qint64 totalSize, const PathStamps &stamps);
     void recordFileInFolder(const QString &parent, const DirectoryEntry &file);
     VideoHash fingerprintOf(const DirectoryEntry &file);
+    // A file the walk has passed, by its path: read now, or remembered when its path is too
+    // long to be opened whole.
+    VideoHash fingerprintOfPath(const QString &path);
+    void rememberFingerprintOfLongPath(const DirectoryEntry &file);
     void takeFirstHash(FolderRecord &record);
     // Reports outside the lock, so that a receiver may call back into the finder.
     void report(QMutexLocker<QMutex> &locker, bool completeStatus, const QString &key);
@@ -130,4 +134,5 @@ private:
     QString m_markerCheckedFolder; // the folder path whose ".app" test is remembered
     bool m_folderHasMarker = false;
     std::shared_ptr<ThumbnailCache> m_thumbnails;
+    QHash<QString, VideoHash> m_longPathFingerprints;
 };

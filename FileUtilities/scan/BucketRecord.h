@@ -8,9 +8,9 @@
 // Everything that can still match one size-and-type (or folder) bucket key.
 struct BucketRecord
 {
-    qint64 fileSize = 0;  // one file's size, or a folder's total size
-    QString fileType;     // the type text
-    QString fileName;     // name of the entry that wrote the record last
-    QStringList filePath; // oldest first; element 0 is the reference copy
-    PathStamps stamps;    // how the walk saw each of them
+    qint64 fileSize = 0;    // one file's size, or a folder's total size
+    QString fileType;       // the type text
+    QString fileName;       // name of the entry that wrote the record last
+    QStringList filePath;   // oldest first; element 0 is the reference copy
+    PathStamps stamps = {}; // how the walk saw each of them
 };

@@ -18,5 +18,5 @@ struct GroupRecord
     QString fileUTI;      // type identifier of a file; the type text for a folder
     qint64 totalSize = 0; // all copies together, the first included
     // How the walk saw each copy; a path may outlive its copy here, which costs nothing.
-    PathStamps fileStamps;
+    PathStamps fileStamps = {};
 };

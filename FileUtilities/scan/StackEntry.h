@@ -9,7 +9,7 @@ struct StackEntry
 {
     QString name; // last path component
     QString path;
-    qint64 size = 0; // total size of what the walk has seen inside so far
-    QString type;    // the folder's type text
-    FileStamp stamp; // the folder as the walk entered it
+    qint64 size = 0;      // total size of what the walk has seen inside so far
+    QString type;         // the folder's type text
+    FileStamp stamp = {}; // the folder as the walk entered it
 };

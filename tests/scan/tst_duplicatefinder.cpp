@@ -1,4 +1,5 @@
 #include "BRDuplicateFinderClass.h"
+#include "FileTypeDatabase.h"
 #include "HardLinks.h"
 #include "ScanReportSink.h"
 #include "TestDir.h"
@@ -6,6 +7,7 @@
 #include <QFile>
 #include <QImage>
 #include <QLoggingCategory>
+#include <QProcess>
 #include <QTest>
 
 #include <cstring>
@@ -13,6 +15,7 @@
 
 #include <fcntl.h>
 #include <sys/inotify.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -388,8 +391,10 @@ private Q_SLOTS:
         char events[4096];
         const ssize_t read = ::read(watcher, events, sizeof events);
         ::close(watcher);
-        QCOMPARE(read, ssize_t(-1));               // no event: nothing was opened
-        QCOMPARE(result->last().groups.size(), 1); // m.dat; the folders end on a pipe
+        QCOMPARE(read, ssize_t(-1)); // no event: nothing was opened
+        // m.dat, and the two folders: both end on a pipe, whose empty fingerprint is in
+        // both keys.
+        QCOMPARE(result->last().groups.size(), 2);
     }
 
     void fileVanishingBeforeItsFingerprint()
@@ -409,7 +414,10 @@ private Q_SLOTS:
         QCOMPARE(sink.last().totalDuplicates, 2);
     }
 
-    void unreadableFilesAndFoldersAreNotDuplicates()
+    // Unreadable files match nothing; a folder's sum takes an empty fingerprint for an
+    // unreadable first or last file, and the key alone decides: "a" and "b" (two unreadable
+    // files each, of equal sizes) form the one group.
+    void unreadableFilesMatchNothingAndFoldersGoByTheirKey()
     {
         TestDir dir;
         dir.createPatternFile(QStringLiteral("a/x.dat"), kBig, 101);
@@ -434,7 +442,87 @@ private Q_SLOTS:
         QFile::setPermissions(dir.filePath(QStringLiteral("c")), QFileDevice::ReadOwner |
                                                                      QFileDevice::WriteOwner |
                                                                      QFileDevice::ExeOwner);
-        QCOMPARE(groups, 0);
+        QCOMPARE(groups, 1);
+    }
+
+    // Two copies of a folder made by "cp -a" whose last entry is a link: the link gives no
+    // fingerprint, and the empty one in both keys makes them equal.
+    void foldersEndingInALinkMatch()
+    {
+        TestDir dir;
+        for (const QString &copy : {u"one"_s, u"two"_s}) {
+            dir.createPatternFile(copy + u"/photo.jpg"_s, kBig, 7);
+            QVERIFY(::symlink("photo.jpg", QFile::encodeName(dir.filePath(copy + u"/zz-link"_s))) ==
+                    0);
+        }
+        const auto result = scan(dir.path());
+        QStringList folderGroups;
+        result->last().groups.forEach([&](const QString &, const GroupRecord &group) {
+            if (group.fileType == FileTypeDatabase::folderDescription())
+                folderGroups.append(group.filePath.join(u'|'));
+        });
+        QCOMPARE(folderGroups, QStringList{dir.filePath(u"one"_s) + u'|' + dir.filePath(u"two"_s)});
+    }
+
+    // Paths longer than the system opens whole, and trees deeper than the descriptors a
+    // process may hold: the copies at the bottom are still found.
+    void deepAndLongPathsAreFound_data()
+    {
+        QTest::addColumn<int>("levels");
+        QTest::addColumn<int>("nameLength");
+        QTest::addColumn<int>("descriptorLimit"); // 0: as the process has it
+        QTest::newRow("a path of about 5,000 bytes") << 40 << 120 << 0;
+        QTest::newRow("1,100 levels") << 1100 << 1 << 0;
+        QTest::newRow("200 levels, 64 descriptors") << 200 << 1 << 64;
+        // Nearly every descriptor held by the walk when the first type is asked for.
+        QTest::newRow("60 levels, 64 descriptors") << 60 << 1 << 64;
+    }
+    void deepAndLongPathsAreFound()
+    {
+        QFETCH(int, levels);
+        QFETCH(int, nameLength);
+        QFETCH(int, descriptorLimit);
+        TestDir dir;
+        // Built with openat, one level at a time, as no whole path may be given to the system.
+        int fd = ::open(QFile::encodeName(dir.path()).constData(), O_RDONLY | O_DIRECTORY);
+        QVERIFY(fd >= 0);
+        const QByteArray name(nameLength, 'd');
+        QString path = dir.path();
+        for (int level = 0; level < levels; ++level) {
+            QVERIFY(::mkdirat(fd, name.constData(), 0755) == 0);
+            const int child = ::openat(fd, name.constData(), O_RDONLY | O_DIRECTORY);
+            ::close(fd);
+            fd = child;
+            QVERIFY(fd >= 0);
+            path += u'/' + QString::fromLatin1(name);
+        }
+        const QByteArray bytes = TestDir::pattern(kBig, 11);
+        for (const char *file : {"a.dat", "b.dat"}) {
+            const int out = ::openat(fd, file, O_WRONLY | O_CREAT | O_EXCL, 0644);
+            QVERIFY(out >= 0);
+            QCOMPARE(::write(out, bytes.constData(), bytes.size()), bytes.size());
+            ::close(out);
+        }
+        ::close(fd);
+
+        rlimit before = {};
+        ::getrlimit(RLIMIT_NOFILE, &before);
+        if (descriptorLimit > 0) {
+            rlimit lowered = before;
+            lowered.rlim_cur = static_cast<rlim_t>(descriptorLimit);
+            QVERIFY(::setrlimit(RLIMIT_NOFILE, &lowered) == 0);
+        }
+        const auto result = scan(dir.path());
+        ::setrlimit(RLIMIT_NOFILE, &before);
+        const GroupMap groups = result->last().groups;
+        QStringList found;
+        groups.forEach([&](const QString &, const GroupRecord &group) {
+            if (group.filePath.constFirst().endsWith(u"a.dat"))
+                found = group.filePath;
+        });
+        QCOMPARE(found, (QStringList{path + u"/a.dat"_s, path + u"/b.dat"_s}));
+        // Removing the tree needs the same care: rm -rf copes with any depth.
+        QProcess::execute(u"rm"_s, {u"-rf"_s, dir.path()});
     }
 };
 

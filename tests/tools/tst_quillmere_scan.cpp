@@ -107,7 +107,7 @@ private Q_SLOTS:
                                 "# (PNG image): 2 copies of 117.2 KiB, 234.4 KiB in all\n"
                                 "  @/a1.png\n  @/#\n\n"
                                 "5 duplicate files, 312.5 KiB reclaimable\n")
-                     .replace(u'#', oddName)
+                     .replace(u'#', QStringLiteral("a2 \"q\\\\\" \\t\\x01.png"))
                      .replace(u'@', dir.path()));
         // An empty folder gives only the complete line, or the total.
         TestDir empty;

@@ -14,4 +14,8 @@ public:
                              qint64 totalDuplicates, qint64 totalDupesSize);
     // Binary units: "512 bytes", "1.5 KiB", "3.2 GiB".
     static QString sizeText(qint64 bytes);
+    // A name or path as one line can hold it: control characters and the backslash are
+    // written as escapes ("\n", "\t", "\\", "\x01"), so a name with a newline cannot
+    // pass for two lines.
+    static QString lineSafe(const QString &text);
 };
