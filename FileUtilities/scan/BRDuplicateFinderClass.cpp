@@ -234,20 +234,28 @@ void BRDuplicateFinderClass::checkForDuplicateFile(const DirectoryEntry &entry, 
                     {PathStamp{filePath, entry.stamp}});
         return;
     }
-    QStringList paths = bucket->filePath;
+    // A copy: the map may change below, and the record must not change with it.
+    const BucketRecord current = *bucket;
+    QStringList paths = current.filePath;
     if (paths.isEmpty())
         return;
 
-    // Each newcomer is compared with the bucket's first file only, and fingerprints are
-    // taken anew each time: they are cheap, and caching them would cost memory per file.
-    const VideoHash reference = fingerprintOfPath(paths.first());
+    // Each newcomer is compared with the bucket's first file only. That file's fingerprint
+    // is read once and remembered in the bucket; the newcomer's is taken now.
+    QString reference = current.referenceHash;
+    if (current.referencePath != paths.first()) {
+        reference = fingerprintOfPath(paths.first()).fileHash;
+        BucketRecord &kept = m_dict[bucketKey];
+        kept.referencePath = paths.first();
+        kept.referenceHash = reference;
+    }
     const VideoHash candidate = fingerprintOf(entry);
     // Two files that could not be read are not known to be equal.
-    if (candidate.fileHash.isEmpty() || reference.fileHash != candidate.fileHash)
+    if (candidate.fileHash.isEmpty() || reference != candidate.fileHash)
         return;
 
     paths.append(filePath);
-    PathStamps stamps = bucket->stamps;
+    PathStamps stamps = current.stamps;
     stamps.append(PathStamp{filePath, entry.stamp});
     m_totalDupesSize += fileSize;
     storeBucket(fileSize, type.description, fileName, paths, bucketKey, stamps);
@@ -382,7 +390,15 @@ void BRDuplicateFinderClass::storeBucket(qint64 fileSize, const QString &fileTyp
                                          const QString &fileName, const QStringList &filePaths,
                                          const QString &key, const PathStamps &stamps)
 {
-    m_dict.insert(key, BucketRecord{fileSize, fileType, fileName, filePaths, stamps});
+    BucketRecord record{fileSize, fileType, fileName, filePaths, stamps};
+    // The reference copy's fingerprint stays known while it is still the first path.
+    if (const auto earlier = m_dict.constFind(key);
+        earlier != m_dict.constEnd() && !filePaths.isEmpty() &&
+        earlier->referencePath == filePaths.constFirst()) {
+        record.referencePath = earlier->referencePath;
+        record.referenceHash = earlier->referenceHash;
+    }
+    m_dict.insert(key, std::move(record));
 }
 
 PathStamps BRDuplicateFinderClass::stampsOfBucket(const QString &key) const

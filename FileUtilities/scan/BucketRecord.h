@@ -13,4 +13,8 @@ struct BucketRecord
     QString fileName;       // name of the entry that wrote the record last
     QStringList filePath;   // oldest first; element 0 is the reference copy
     PathStamps stamps = {}; // how the walk saw each of them
+    // The fingerprint of the reference copy, once read: every newcomer is compared with it,
+    // and the file is read once a scan. Valid while `referencePath` is filePath's first.
+    QString referencePath = {};
+    QString referenceHash = {};
 };
