@@ -9,12 +9,12 @@
 
 #include "ApplicationStatus.h"
 #include "BRDuplicateFilesViewController.h"
+#include "BenchSupport.h"
 #include "CopyProof.h"
+#include "DesktopWorkspace.h"
 #include "DuplicateResults.h"
 #include "FileStamp.h"
-#include "FreedesktopTrash.h"
 #include "ScriptedAlertPresenter.h"
-#include "Workspace.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -28,18 +28,6 @@
 #include <unistd.h>
 
 namespace {
-
-class TrashWorkspace final : public Workspace
-{
-public:
-    bool openURL(const QUrl &) override { return false; }
-    bool selectFile(const QString &) override { return false; }
-    TrashResult moveToTrash(const QString &path) override
-    {
-        const FreedesktopTrash::Result result = FreedesktopTrash().moveToTrash(path);
-        return TrashResult{result.trashed, QFile::decodeName(result.pathInTrash), result.error};
-    }
-};
 
 bool writeFile(const QString &path, qint64 mebibytes)
 {
@@ -125,7 +113,7 @@ int main(int argc, char *argv[])
     // The screen: one group of the two files; the copy goes through the check and the Trash
     // while a 1 ms timer records how late the main thread gets to it.
     ScriptedAlertPresenter alerts;
-    TrashWorkspace workspace;
+    DesktopWorkspace workspace;
     ApplicationStatus status;
     BRDuplicateFilesViewController view(alerts, workspace, &status);
     view.resize(1100, 760);
@@ -151,27 +139,18 @@ int main(int argc, char *argv[])
     if (canDrop)
         dropCaches();
 
-    QElapsedTimer clock;
-    clock.start();
-    qint64 lastTick = 0, longest = 0;
-    QTimer ticker;
-    QObject::connect(&ticker, &QTimer::timeout, [&] {
-        const qint64 now = clock.nsecsElapsed();
-        longest = std::max(longest, now - lastTick);
-        lastTick = now;
-    });
-    ticker.start(1);
-    lastTick = clock.nsecsElapsed();
+    BenchSupport::LongestFrame frames;
+    frames.restart();
     view.updateAfterDelete(1, record.oldKey);
     while (view.isRemovingCopies())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
     for (int i = 0; i < 10; ++i)
         QCoreApplication::processEvents();
-    const double seconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
+    const double seconds = frames.secondsSinceStart();
     const bool gone = !QFile::exists(b);
     std::printf("screen (%s cache): copy %s after %.2f s, longest main-thread frame %.1f ms, "
                 "alerts %lld\n",
                 canDrop ? "cold" : "warm", gone ? "in the Trash" : "STILL THERE", seconds,
-                static_cast<double>(longest) / 1e6, static_cast<long long>(alerts.shown.size()));
+                frames.longestMs(), static_cast<long long>(alerts.shown.size()));
     return gone ? 0 : 1;
 }

@@ -7,11 +7,11 @@
 
 #include "ApplicationStatus.h"
 #include "BRDuplicateFilesViewController.h"
+#include "BenchSupport.h"
+#include "DesktopWorkspace.h"
 #include "DuplicateResults.h"
 #include "FileStamp.h"
-#include "FreedesktopTrash.h"
 #include "ScriptedAlertPresenter.h"
-#include "Workspace.h"
 
 #include <QApplication>
 #include <QDir>
@@ -21,33 +21,6 @@
 #include <QTimer>
 
 #include <cstdio>
-
-namespace {
-
-class TrashWorkspace final : public Workspace
-{
-public:
-    bool openURL(const QUrl &) override { return false; }
-    bool selectFile(const QString &) override { return false; }
-    TrashResult moveToTrash(const QString &path) override
-    {
-        const FreedesktopTrash::Result result = FreedesktopTrash().moveToTrash(path);
-        return TrashResult{result.trashed, QFile::decodeName(result.pathInTrash), result.error};
-    }
-};
-
-long residentKiB()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    return -1;
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -93,7 +66,7 @@ int main(int argc, char *argv[])
                 static_cast<long long>(copies), static_cast<double>(making.elapsed()) / 1000);
 
     ScriptedAlertPresenter alerts; // answers "Move to Trash"
-    TrashWorkspace workspace;
+    DesktopWorkspace workspace;
     ApplicationStatus status;
     BRDuplicateFilesViewController view(alerts, workspace, &status);
     view.resize(1100, 760);
@@ -112,26 +85,18 @@ int main(int argc, char *argv[])
         QCoreApplication::processEvents();
     alerts.shown.clear();
 
-    QElapsedTimer clock;
-    clock.start();
-    qint64 lastTick = 0, longest = 0;
-    QTimer ticker;
-    QObject::connect(&ticker, &QTimer::timeout, [&] {
-        const qint64 now = clock.nsecsElapsed();
-        longest = std::max(longest, now - lastTick);
-        lastTick = now;
-    });
-    ticker.start(1);
+    BenchSupport::LongestFrame frames;
     QElapsedTimer asking;
     asking.start();
     view.keepOneCopyOfGroupsOnScreen(KeepOnePlan::Rule::ShortestPath);
     const double planMs = static_cast<double>(asking.nsecsElapsed()) / 1e6;
-    lastTick = clock.nsecsElapsed();
+    frames.restart();
+    const double started = frames.secondsSinceStart();
     while (view.isKeepingOne())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
     for (int i = 0; i < 20; ++i)
         QCoreApplication::processEvents();
-    const double seconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
+    const double seconds = frames.secondsSinceStart() - started;
 
     qsizetype left = 0;
     view.results().groups().forEach(
@@ -140,9 +105,8 @@ int main(int argc, char *argv[])
     std::printf("run: %.1f s for %lld spare copies (%.0f a second), longest main-thread frame "
                 "%.1f ms, %lld copies left, peak memory %ld MB\n",
                 seconds, static_cast<long long>(copies - groupCount),
-                static_cast<double>(copies - groupCount) / seconds,
-                static_cast<double>(longest) / 1e6, static_cast<long long>(left),
-                residentKiB() / 1024);
+                static_cast<double>(copies - groupCount) / seconds, frames.longestMs(),
+                static_cast<long long>(left), BenchSupport::peakResidentKiB() / 1024);
     if (!alerts.shown.isEmpty())
         std::printf("summary: %s %s\n", qPrintable(alerts.shown.last().title),
                     qPrintable(alerts.shown.last().text));

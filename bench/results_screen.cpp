@@ -8,6 +8,7 @@
 
 #include "ApplicationStatus.h"
 #include "BRDuplicateFilesViewController.h"
+#include "BenchSupport.h"
 #include "DuplicateResults.h"
 #include "GroupOrdering.h"
 #include "ScriptedAlertPresenter.h"
@@ -65,17 +66,6 @@ GroupRecord recordFor(int index, QRandomGenerator &random)
     record.oldKey = QString::number(record.fileSize) + record.fileType;
     record.totalSize = record.fileSize * copies;
     return record;
-}
-
-long residentKiB()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    return -1;
 }
 
 template <typename Step> double millisecondsOf(Step step)
@@ -234,6 +224,7 @@ int main(int argc, char *argv[])
                 static_cast<long long>(results.filteredData().size()));
     const double clearMs = millisecondsOf([&] { search->clear(); });
     std::printf("search cleared: %.1f ms\n", clearMs);
-    std::printf("peak resident memory: %.0f MB\n", static_cast<double>(residentKiB()) / 1024.0);
+    std::printf("peak resident memory: %.0f MB\n",
+                static_cast<double>(BenchSupport::peakResidentKiB()) / 1024.0);
     return 0;
 }

@@ -1,6 +1,6 @@
 #include "CopyProof.h"
 #include "CopyRemoval.h"
-#include "FreedesktopTrash.h"
+#include "DesktopWorkspace.h"
 #include "ScriptedWorkspace.h"
 #include "TestDir.h"
 
@@ -40,19 +40,6 @@ void touchLater(const QString &path, int seconds)
     times[1].tv_sec += seconds;
     QVERIFY(::utimensat(AT_FDCWD, native(path).constData(), times, AT_SYMLINK_NOFOLLOW) == 0);
 }
-
-// A Trash that really moves things, in a data folder of the test's own.
-class RealTrashWorkspace final : public Workspace
-{
-public:
-    bool openURL(const QUrl &) override { return false; }
-    bool selectFile(const QString &) override { return false; }
-    TrashResult moveToTrash(const QString &path) override
-    {
-        const FreedesktopTrash::Result result = FreedesktopTrash().moveToTrash(path);
-        return TrashResult{result.trashed, QFile::decodeName(result.pathInTrash), result.error};
-    }
-};
 
 // Holds every trashing until the test lets it go.
 class GatedWorkspace final : public Workspace
@@ -219,7 +206,7 @@ private Q_SLOTS:
         TestDir dir;
         const QString a = dir.createPatternFile(u"a.bin"_s, fileSize, 1);
         const QString b = dir.createPatternFile(u"b.bin"_s, fileSize, 1);
-        RealTrashWorkspace workspace;
+        DesktopWorkspace workspace; // a Trash of the test's own, in XDG_DATA_HOME
         CopyRemoval removal(workspace);
         QSignalSpy finished(&removal, &CopyRemoval::finished);
         QVERIFY(removal.start({u"g"_s, a, {b}, stampNow(a)}));
