@@ -40,11 +40,16 @@ Decision decide(Request request, const Facts &facts)
 {
     switch (request) {
     case Request::Quit:
-        // A filled rename list does not hold up the Quit command; only the close button asks.
+        // The Quit command asks what the close button asks: a filled rename list is work
+        // the user would lose as surely as the results.
         if (facts.scanRunning)
             return {quitAlert(scanInProgress()), Clears::ApplicationStatus, true};
         if (facts.groupsHeld > 0)
-            return {quitAlert(resultsWillBeLost()), Clears::ApplicationStatus, true};
+            return {
+                quitAlert(facts.renameRows > 0 ? renameFilesAndResultsHeld() : resultsWillBeLost()),
+                Clears::ApplicationStatus, true};
+        if (facts.renameRows > 0)
+            return {quitAlert(renameFilesSelected()), Clears::ApplicationStatus, true};
         return {};
     case Request::CloseOnDuplicates:
         if (facts.scanRunning)

@@ -45,14 +45,15 @@ private Q_SLOTS:
             QTest::newRow(name) << request << scanRunning << groups << rows << message << clears
                                 << raises;
         };
-        // The Quit command: the duplicate side alone decides.
+        // The Quit command: as the close button, with the window brought forward to ask.
         row("quit, nothing held", Request::Quit, false, 0, 0, {}, Clears::Nothing, false);
         row("quit, scan", Request::Quit, true, 0, 0, scan, Clears::ApplicationStatus, true);
         row("quit, scan beats results", Request::Quit, true, 4, 0, scan, Clears::ApplicationStatus,
             true);
         row("quit, results", Request::Quit, false, 5, 0, lost, Clears::ApplicationStatus, true);
-        row("quit, rename list only", Request::Quit, false, 0, 7, {}, Clears::Nothing, false);
-        row("quit, rename list and results", Request::Quit, false, 2, 7, lost,
+        row("quit, rename list only", Request::Quit, false, 0, 7, renameList,
+            Clears::ApplicationStatus, true);
+        row("quit, rename list and results", Request::Quit, false, 2, 7, both,
             Clears::ApplicationStatus, true);
 
         // Closing on the results screen: its own scan and groups, dropped on "Quit".
