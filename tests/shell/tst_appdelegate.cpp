@@ -15,6 +15,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("scanRuns");
         QTest::addColumn<int>("groupsHeld");
+        QTest::addColumn<int>("renameRows");
         QTest::addColumn<int>("answer"); // 0: no alert is expected
         QTest::addColumn<QString>("message");
         QTest::addColumn<bool>("terminates");
@@ -23,17 +24,28 @@ private Q_SLOTS:
         const QString lost =
             QStringLiteral("The current list of the duplicate search results will be lost. Are "
                            "you sure you want to quit Quillmere?");
-        QTest::newRow("nothing held") << false << 0 << 0 << QString() << true;
-        QTest::newRow("scan, Quit") << true << 0 << AlertPresenter::firstButton << scan << true;
-        QTest::newRow("scan, Cancel") << true << 3 << AlertPresenter::secondButton << scan << false;
-        QTest::newRow("results, Quit") << false << 5 << AlertPresenter::firstButton << lost << true;
+        const QString rename = QStringLiteral(
+            "There are files selected for rename. Are you sure you want to quit Quillmere?");
+        QTest::newRow("nothing held") << false << 0 << 0 << 0 << QString() << true;
+        QTest::newRow("scan, Quit")
+            << true << 0 << 0 << AlertPresenter::firstButton << scan << true;
+        QTest::newRow("scan, Cancel")
+            << true << 3 << 0 << AlertPresenter::secondButton << scan << false;
+        QTest::newRow("results, Quit")
+            << false << 5 << 0 << AlertPresenter::firstButton << lost << true;
         QTest::newRow("results, Cancel")
-            << false << 5 << AlertPresenter::secondButton << lost << false;
+            << false << 5 << 0 << AlertPresenter::secondButton << lost << false;
+        // Beyond the close button's rules of old: Quit asks about a filled rename list too.
+        QTest::newRow("rename list, Quit")
+            << false << 0 << 4 << AlertPresenter::firstButton << rename << true;
+        QTest::newRow("rename list, Cancel")
+            << false << 0 << 4 << AlertPresenter::secondButton << rename << false;
     }
     void quitting()
     {
         QFETCH(bool, scanRuns);
         QFETCH(int, groupsHeld);
+        QFETCH(int, renameRows);
         QFETCH(int, answer);
         QFETCH(QString, message);
         QFETCH(bool, terminates);
@@ -44,6 +56,7 @@ private Q_SLOTS:
         AppDelegate app(alerts, settings);
         app.duplicateScanStatus = scanRuns;
         app.duplicateFilesCount = groupsHeld;
+        app.renameRows = renameRows;
 
         const auto reply = app.applicationShouldTerminate();
         QCOMPARE(reply == AppDelegate::TerminateReply::TerminateNow, terminates);
