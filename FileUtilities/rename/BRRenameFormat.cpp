@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <limits>
 
@@ -172,6 +173,9 @@ ExecutionReport BRRenameFormat::renameFiles(const QStringList &keys, RenameFileD
 {
     ExecutionReport report;
     ItemBookmark::SearchCache searches;
+    // First where every file is and where it goes; then the moves, in an order that lets a
+    // file take a name another file of the batch is leaving.
+    QList<PlannedMove> moves;
     for (const QString &key : keys) {
         const auto record = details.constFind(key);
         if (record == details.constEnd() || !record->destinationURL ||
@@ -184,21 +188,128 @@ ExecutionReport BRRenameFormat::renameFiles(const QStringList &keys, RenameFileD
             report.missingKeys.append(key);
             continue;
         }
-        if (existsAt(path)) {
-            renameFile(sourceURL, newName, details, key);
-            continue;
+        std::optional<QUrl> at = sourceURL;
+        if (!existsAt(path)) {
+            at = restoreBookmark(path, bookmarks, &searches);
+            if (!at) {
+                qCWarning(renameLog).noquote()
+                    << "not renamed:" << path << "is gone and was not found near where it was";
+                report.missingKeys.append(key);
+                continue;
+            }
+            details[key].sourceURL = *at;
         }
-        const auto found = restoreBookmark(path, bookmarks, &searches);
-        if (!found) {
-            qCWarning(renameLog).noquote()
-                << "not renamed:" << path << "is gone and was not found near where it was";
-            report.missingKeys.append(key);
-            continue;
-        }
-        details[key].sourceURL = *found;
-        renameFile(*found, newName, details, key);
+        if (std::optional<PlannedMove> move = planMove(*at, newName, details, key))
+            moves.append(std::move(*move));
     }
+    carryOut(moves, details);
     return report;
+}
+
+std::optional<BRRenameFormat::PlannedMove> BRRenameFormat::planMove(const QUrl &sourceURL,
+                                                                    const QString &newName,
+                                                                    RenameFileDetails &details,
+                                                                    const QString &key) const
+{
+    const auto record = details.find(key);
+    if (record == details.end())
+        return std::nullopt;
+    const QString sourcePath = localPath(sourceURL);
+    const SplitPath source = splitPath(sourcePath);
+    if (source.folder.isEmpty() || source.name.isEmpty())
+        return std::nullopt;
+    const QString extension = QFileInfo(source.name).suffix();
+    const QString targetName =
+        extension.isEmpty() ? newName : newName + QLatin1Char('.') + extension;
+    // A name that would point into another folder, or that the file system cannot hold,
+    // is refused here rather than handed to the path API.
+    if (!FileMover::isValidFileName(targetName, source.folder)) {
+        qCWarning(renameLog).noquote()
+            << "not renamed:" << sourcePath << "cannot be named" << targetName << "in its folder";
+        record->outcome = RenameOutcome::Failed;
+        return std::nullopt;
+    }
+    const QString targetPath = source.folder == QLatin1String("/")
+                                   ? source.folder + targetName
+                                   : source.folder + QLatin1Char('/') + targetName;
+    // A file that has its new name already is left as it is: nothing to do, nothing failed.
+    if (targetPath == sourcePath)
+        return std::nullopt;
+    return PlannedMove{key, sourcePath, targetPath, QString()};
+}
+
+void BRRenameFormat::carryOut(QList<PlannedMove> &moves, RenameFileDetails &details) const
+{
+    // Which pending move still holds each path as its source.
+    QHash<QString, qsizetype> holder;
+    for (qsizetype at = 0; at < moves.size(); ++at)
+        holder.insert(moves.at(at).source, at);
+    QList<bool> done(moves.size(), false);
+
+    const auto execute = [&](qsizetype at) {
+        PlannedMove &move = moves[at];
+        const FileMover::Result moved = FileMover::move(move.source, move.target);
+        if (!moved)
+            qCWarning(renameLog).noquote()
+                << "not renamed:" << move.source << "to" << move.target << ":" << moved.errorText;
+        details[move.key].outcome = moved ? RenameOutcome::Succeeded : RenameOutcome::Failed;
+        holder.remove(move.source);
+        done[at] = true;
+        if (moved || move.parkedFrom.isEmpty())
+            return;
+        // A file parked under a passing name to break a cycle goes back where it was; if it
+        // cannot, its row tells where it is now.
+        if (FileMover::move(move.source, move.parkedFrom))
+            return;
+        qCWarning(renameLog).noquote() << "left" << move.parkedFrom << "as" << move.source;
+        details[move.key].sourceURL = QUrl::fromLocalFile(move.source);
+    };
+
+    for (qsizetype start = 0; start < moves.size(); ++start) {
+        if (done[start])
+            continue;
+        // Follow the moves whose targets are held by other pending moves, to one whose target
+        // is free (the end of a chain), or back to a move already on the way (a cycle).
+        QList<qsizetype> path{start};
+        QSet<qsizetype> onPath{start};
+        for (;;) {
+            const auto blocker = holder.constFind(moves.at(path.constLast()).target);
+            if (blocker == holder.constEnd() || done[*blocker])
+                break;
+            if (onPath.contains(*blocker)) {
+                // A cycle: the file whose name the last move wants steps aside first.
+                parkAside(moves[*blocker], holder, *blocker);
+                break;
+            }
+            path.append(*blocker);
+            onPath.insert(*blocker);
+        }
+        // From the end back: each move frees the name the one before it wants.
+        for (qsizetype at = path.size() - 1; at >= 0; --at) {
+            if (!done[path.at(at)])
+                execute(path.at(at));
+        }
+    }
+}
+
+void BRRenameFormat::parkAside(PlannedMove &move, QHash<QString, qsizetype> &holder,
+                               qsizetype index) const
+{
+    const SplitPath source = splitPath(move.source);
+    for (int attempt = 1; attempt <= 100; ++attempt) {
+        const QString parked =
+            source.folder +
+            QStringLiteral("/.%1.quillmere-rename-%2").arg(source.name.left(200)).arg(attempt);
+        if (!FileMover::move(move.source, parked))
+            continue;
+        holder.remove(move.source);
+        move.parkedFrom = move.source;
+        move.source = parked;
+        holder.insert(parked, index);
+        return;
+    }
+    // No passing name could be had: the cycle's moves fail on their taken names, and nothing
+    // is overwritten.
 }
 
 void BRRenameFormat::renameFile(const std::optional<QUrl> &sourceURL, const QString &newName,

@@ -78,12 +78,15 @@ public:
     // "" for .profile.
     static QString baseName(const QUrl &sourceURL);
 
-    // Moves the listed files to their new names, one after another in key order, each in
-    // its own folder, and writes each row's State. A row without a record, or whose
-    // destinationURL is absent or "", is left alone. A file that is not at its path is
-    // looked for by its bookmark; when found, the row's sourceURL becomes its new place and
-    // the move happens there; when not (or when the row has no path), its key is reported
-    // and the row is left as it was.
+    // Moves the listed files to their new names, each in its own folder, and writes each
+    // row's State. Where a new name is held by another file of the batch that moves away
+    // itself, that file moves first (a chain), and a ring of such names goes through a
+    // passing name in the same folder (a cycle), so renumbering a numbered set works; no move
+    // ever replaces a file. A file that has its new name already is left as it is, neither
+    // renamed nor failed. A row without a record, or whose destinationURL is absent or "",
+    // is left alone. A file that is not at its path is looked for by its bookmark; when
+    // found, the row's sourceURL becomes its new place and the move happens there; when not
+    // (or when the row has no path), its key is reported and the row is left as it was.
     ExecutionReport renameFiles(const QStringList &keys, RenameFileDetails &details,
                                 RenameBookmarks &bookmarks) const;
     // Moves one file to `newName` plus its own extension (the text after the last dot of
@@ -103,6 +106,23 @@ public:
     void saveBookmark(const QUrl &url, RenameBookmarks &bookmarks) const;
 
 private:
+    // One file's move, resolved before any file moves.
+    struct PlannedMove
+    {
+        QString key;
+        QString source; // where the file is now
+        QString target;
+        QString parkedFrom; // where it was before it stepped aside for a cycle, if it did
+    };
+    // The move that gives the file at `sourceURL` its new name, or nothing when the name is
+    // refused (the row has failed) or is the name it has.
+    std::optional<PlannedMove> planMove(const QUrl &sourceURL, const QString &newName,
+                                        RenameFileDetails &details, const QString &key) const;
+    // Moves the files so that a chain of names (a to b's name, b to c's) succeeds from its
+    // end and a cycle goes through a passing name in the same folder; never replaces.
+    void carryOut(QList<PlannedMove> &moves, RenameFileDetails &details) const;
+    void parkAside(PlannedMove &move, QHash<QString, qsizetype> &holder, qsizetype index) const;
+
     // Hands each listed row that has a path to `name`, in list order; reports the others.
     static RuleRunReport nameListedRows(RenameFileDetails &details, const QStringList &keys,
                                         const std::function<void(RenameRecord &)> &name);

@@ -1,5 +1,6 @@
 #include "BRRenameFormat.h"
 #include "FileMover.h"
+#include "ImmutableFlag.h"
 #include "TestDir.h"
 
 #include <QDir>
@@ -132,9 +133,10 @@ private Q_SLOTS:
             << QStringList{u"a.1.txt"_s, u"a.2.txt"_s} << QStringList{u"a-x"_s, u"a-x"_s}
             << QStringList() << QList<RenameOutcome>{ok, failed}
             << QStringList{u"a-x.txt=a.1.txt"_s, u"a.2.txt=a.2.txt"_s};
+        // A file that has its new name already is neither renamed nor failed.
         QTest::newRow("the name it has")
             << QStringList{u"a.jpg"_s} << QStringList{u"a"_s} << QStringList()
-            << QList<RenameOutcome>{failed} << QStringList{u"a.jpg=a.jpg"_s};
+            << QList<RenameOutcome>{RenameOutcome::NotTried} << QStringList{u"a.jpg=a.jpg"_s};
         QTest::newRow("a folder of that name")
             << QStringList{u"a.jpg"_s} << QStringList{u"Trip"_s} << QStringList{u"Trip.jpg/"_s}
             << QList<RenameOutcome>{failed} << QStringList{u"a.jpg=a.jpg"_s, u"Trip.jpg=<none>"_s};
@@ -162,6 +164,77 @@ private Q_SLOTS:
 
     // The user is told that some files could not be renamed; the log says which, and why,
     // in the system's words, once its category is turned on.
+    // Renumbering a numbered set: each file takes a name another file of the batch leaves.
+    // A chain succeeds from its end, a cycle through a passing name; every file keeps its
+    // content under its new name and nothing is left behind.
+    void chainsAndCyclesOfNames_data()
+    {
+        QTest::addColumn<QStringList>("names");    // the files, in list order
+        QTest::addColumn<QStringList>("newNames"); // their new base names
+        QTest::newRow("file4-6 from 5")
+            << QStringList{u"file4.txt"_s, u"file5.txt"_s, u"file6.txt"_s}
+            << QStringList{u"file5"_s, u"file6"_s, u"file7"_s};
+        QTest::newRow("Trip1-2 from 2")
+            << QStringList{u"Trip1.jpg"_s, u"Trip2.jpg"_s} << QStringList{u"Trip2"_s, u"Trip3"_s};
+        QTest::newRow("a swap") << QStringList{u"a.txt"_s, u"b.txt"_s}
+                                << QStringList{u"b"_s, u"a"_s};
+        QTest::newRow("a ring of three") << QStringList{u"a.txt"_s, u"b.txt"_s, u"c.txt"_s}
+                                         << QStringList{u"b"_s, u"c"_s, u"a"_s};
+        QStringList many, shifted, ring;
+        for (int i = 0; i < 1000; ++i) {
+            many.append(u"n%1.dat"_s.arg(i));
+            shifted.append(u"n%1"_s.arg(i + 1));
+            ring.append(u"n%1"_s.arg((i + 1) % 1000));
+        }
+        QTest::newRow("a chain of 1,000") << many << shifted;
+        QTest::newRow("a ring of 1,000") << many << ring;
+    }
+    void chainsAndCyclesOfNames()
+    {
+        QFETCH(QStringList, names);
+        QFETCH(QStringList, newNames);
+        Listing l;
+        for (qsizetype at = 0; at < names.size(); ++at)
+            l.list(names.at(at), newNames.at(at));
+        QCOMPARE(l.run().missingKeys, QStringList());
+        QCOMPARE(l.states(), QList<RenameOutcome>(names.size(), RenameOutcome::Succeeded));
+        QDir folder(l.dir.path());
+        QStringList expected;
+        for (qsizetype at = 0; at < names.size(); ++at) {
+            const QString extension = QFileInfo(names.at(at)).suffix();
+            const QString target = newNames.at(at) + u'.' + extension;
+            expected.append(target);
+            QCOMPARE(l.content(target), names.at(at)); // each file holds its own name
+        }
+        expected.sort();
+        QStringList present = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+        present.sort();
+        QCOMPARE(present, expected); // no passing name is left
+    }
+
+    // A ring whose middle file cannot move: nothing is lost and every file has a name. The
+    // file that stepped aside for the ring cannot go back (its old name was taken by then),
+    // and its row says where it is.
+    void aRingBrokenInTheMiddleLosesNothing()
+    {
+        Listing l;
+        l.list(u"a.txt"_s, u"b"_s);
+        l.list(u"b.txt"_s, u"c"_s);
+        l.list(u"c.txt"_s, u"a"_s);
+        const ImmutableFlag stuck(l.dir.filePath(u"b.txt"_s));
+        if (!stuck.isSet())
+            QSKIP(qPrintable(stuck.error()));
+        QCOMPARE(l.run().missingKeys, QStringList());
+        QCOMPARE(l.states(), (QList<RenameOutcome>{RenameOutcome::Failed, RenameOutcome::Failed,
+                                                   RenameOutcome::Succeeded}));
+        QCOMPARE(l.content(u"b.txt"_s), u"b.txt"_s);
+        QCOMPARE(l.content(u"a.txt"_s), u"c.txt"_s);
+        const QString aside = l.details.value(u"a.txt"_s).sourceURL.toLocalFile();
+        QVERIFY(aside != l.dir.filePath(u"a.txt"_s));
+        QCOMPARE(QString::fromUtf8(contentOf(aside)), u"a.txt"_s);
+        QCOMPARE(QDir(l.dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 3);
+    }
+
     void failuresAreLoggedWithTheirCause()
     {
         Listing l;
@@ -178,12 +251,13 @@ private Q_SLOTS:
         QLoggingCategory::setFilterRules(QString());
 
         QCOMPARE(report.missingKeys, QStringList{u"c.jpg"_s});
+        // Names and places are checked for every row before any file moves.
         QCOMPARE(g_logged.size(), 3);
-        QVERIFY2(g_logged[0].contains(l.dir.filePath(u"a.jpg"_s)) &&
-                     g_logged[0].endsWith(QString::fromLocal8Bit(std::strerror(EEXIST))),
-                 qPrintable(g_logged[0]));
-        QVERIFY2(g_logged[1].contains(u"cannot be named ../y.jpg"_s), qPrintable(g_logged[1]));
-        QVERIFY2(g_logged[2].contains(l.dir.filePath(u"c.jpg"_s)), qPrintable(g_logged[2]));
+        QVERIFY2(g_logged[0].contains(u"cannot be named ../y.jpg"_s), qPrintable(g_logged[0]));
+        QVERIFY2(g_logged[1].contains(l.dir.filePath(u"c.jpg"_s)), qPrintable(g_logged[1]));
+        QVERIFY2(g_logged[2].contains(l.dir.filePath(u"a.jpg"_s)) &&
+                     g_logged[2].endsWith(QString::fromLocal8Bit(std::strerror(EEXIST))),
+                 qPrintable(g_logged[2]));
     }
 
     // Names the file system could not hold as one name in the folder are refused before
