@@ -1,6 +1,7 @@
 #include "FilesAndFoldersDialog.h"
 
 #include <QFileInfo>
+#include <QLineEdit>
 
 FilesAndFoldersDialog::FilesAndFoldersDialog(QWidget *parent, const QString &caption,
                                              const QString &directory)
@@ -15,6 +16,13 @@ FilesAndFoldersDialog::FilesAndFoldersDialog(QWidget *parent, const QString &cap
 void FilesAndFoldersDialog::accept()
 {
     if (!m_foldersChoosable || fileMode() == QFileDialog::Directory) {
+        QFileDialog::accept();
+        return;
+    }
+    // A path typed with a slash at its end is a folder to go into, as in every file dialog,
+    // so a keyboard user can still walk the tree by typing.
+    if (const auto *field = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        field && field->text().trimmed().endsWith(u'/')) {
         QFileDialog::accept();
         return;
     }

@@ -331,6 +331,21 @@ private Q_SLOTS:
         }
         dialog.close();
     }
+
+    void aFolderTypedWithASlashIsEntered()
+    {
+        m_dir.createDir(QStringLiteral("typed/pics/inner"));
+        const QString folder = m_dir.filePath(QStringLiteral("typed"));
+        FilesAndFoldersDialog dialog(nullptr, QStringLiteral("Choose files to rename"), folder);
+        dialog.setFoldersChoosable(true);
+        dialog.open();
+        dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))
+            ->setText(QStringLiteral("pics/"));
+        dialog.accept();
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.directory().absolutePath(), folder + QStringLiteral("/pics"));
+        dialog.close();
+    }
 };
 
 QTEST_MAIN(tst_Preview)
