@@ -21,6 +21,7 @@
 #include "ViewFader.h"
 #include "WorkerTask.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -294,6 +295,24 @@ void BRRenameViewController::setViewsHiddenState(bool containerViewHidden,
     for (const auto &[view, hidden] : views)
         if (!hidden)
             view->show();
+    // A control that was hidden leaves the keyboard nowhere: it goes to the first control
+    // of the state now shown (Done, Choose Files…), so Tab and Space go on from there.
+    const QWidget *focus = QApplication::focusWidget();
+    if (focus && focus->isVisible() && isAncestorOf(focus))
+        return;
+    for (QWidget *shown : {static_cast<QWidget *>(m_renameCompleteStatusView),
+                           static_cast<QWidget *>(m_dragAndDropView)}) {
+        if (!shown->isVisible())
+            continue;
+        for (QWidget *next = shown->nextInFocusChain(); next && next != shown;
+             next = next->nextInFocusChain()) {
+            if (shown->isAncestorOf(next) && next->isVisible() && next->isEnabled() &&
+                (next->focusPolicy() & Qt::TabFocus)) {
+                next->setFocus(Qt::OtherFocusReason);
+                return;
+            }
+        }
+    }
 }
 
 void BRRenameViewController::browseAction()
