@@ -283,6 +283,8 @@ void BRDuplicateFilesViewController::startScanProcess(const std::optional<QUrl> 
     if (m_appDelegate)
         m_appDelegate->duplicateScanStatus = true;
     m_results->prepareScan();
+    // Keeping one copy waits for the scan to end: until then the groups still change.
+    m_keepOneButton->setEnabled(false);
     if (m_sortAndCancelTabViewDelegate)
         m_sortAndCancelTabViewDelegate->selectTabAtIndex(1);
     if (m_sortViewDelegate)
@@ -304,6 +306,7 @@ void BRDuplicateFilesViewController::updateDuplicateFiles(const ScanReport &repo
 
 void BRDuplicateFilesViewController::scanEnded(int groupsHeld)
 {
+    m_keepOneButton->setEnabled(!isKeepingOne());
     if (m_appDelegate) {
         m_appDelegate->duplicateScanStatus = false;
         m_appDelegate->duplicateFilesCount = groupsHeld;

@@ -194,6 +194,21 @@ private Q_SLOTS:
         QCOMPARE(screen.view.findChild<QLabel *>(u"totalFilesCountLabel"_s)->text(), u"4"_s);
     }
 
+    void keepOneWaitsForTheScanToEnd()
+    {
+        ScriptedAlertPresenter alerts;
+        ScriptedOpenPanel panel;
+        ScriptedWorkspace workspace;
+        ApplicationStatus status;
+        BRDuplicateFilesViewController view{alerts, workspace, &status, &panel};
+        auto *button = view.findChild<QToolButton *>(u"keepOneButton"_s);
+        view.startScanProcess(QUrl());
+        QVERIFY(!button->isEnabled());
+        view.updateDuplicateFiles({{}, QString(), true, 0, 0});
+        settle();
+        QVERIFY(button->isEnabled());
+    }
+
     void keepOneAppliesToWhatTheListShowsAndCanBeDeclined()
     {
         Archive archive;
