@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
-// Moves items to the Trash as the freedesktop Trash specification 1.0 lays out, so that any
+// Moves items to the Trash the way freedesktop.org's Trash 1.0 lays out, so that any
 // file manager on the desktop lists them and can put them back.
 //
 // For each item the record ("NAME.trashinfo" in the Trash's "info" folder) is made first,

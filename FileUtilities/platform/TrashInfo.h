@@ -6,7 +6,7 @@
 #include <optional>
 
 // The record that goes with each item in the Trash, "NAME.trashinfo" in the Trash's "info"
-// folder, as the freedesktop Trash specification 1.0 lays it out:
+// folder, as freedesktop.org's Trash 1.0 lays it out:
 //
 //   [Trash Info]
 //   Path=/home/me/Photos/a%20copy.jpg

@@ -9,7 +9,7 @@
 #include <optional>
 
 // Finds the Trash that may take items from one folder, and makes its folders where they are
-// missing, as the freedesktop Trash specification 1.0 lays out:
+// missing, as freedesktop.org's Trash 1.0 lays out:
 // - on the file system of the home Trash ($XDG_DATA_HOME/Trash), the home Trash;
 // - on any other drive, "$top/.Trash/$uid" when "$top/.Trash" is a real folder with the
 //   sticky bit, else "$top/.Trash-$uid", which must be a real folder of ours with mode 0700.
