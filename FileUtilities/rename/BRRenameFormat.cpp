@@ -317,32 +317,10 @@ void BRRenameFormat::renameFile(const std::optional<QUrl> &sourceURL, const QStr
 {
     if (!sourceURL)
         return;
-    const auto record = details.find(key);
-    if (record == details.end())
-        return;
-    const QString sourcePath = localPath(*sourceURL);
-    const SplitPath source = splitPath(sourcePath);
-    if (source.folder.isEmpty() || source.name.isEmpty())
-        return;
-    const QString extension = QFileInfo(source.name).suffix();
-    const QString targetName =
-        extension.isEmpty() ? newName : newName + QLatin1Char('.') + extension;
-    // A name that would point into another folder, or that the file system cannot hold,
-    // is refused here rather than handed to the path API.
-    if (!FileMover::isValidFileName(targetName, source.folder)) {
-        qCWarning(renameLog).noquote()
-            << "not renamed:" << sourcePath << "cannot be named" << targetName << "in its folder";
-        record->outcome = RenameOutcome::Failed;
-        return;
+    if (std::optional<PlannedMove> move = planMove(*sourceURL, newName, details, key)) {
+        QList<PlannedMove> moves{std::move(*move)};
+        carryOut(moves, details);
     }
-    const QString targetPath = source.folder == QLatin1String("/")
-                                   ? source.folder + targetName
-                                   : source.folder + QLatin1Char('/') + targetName;
-    const FileMover::Result moved = FileMover::move(sourcePath, targetPath);
-    if (!moved)
-        qCWarning(renameLog).noquote()
-            << "not renamed:" << sourcePath << "to" << targetName << ":" << moved.errorText;
-    record->outcome = moved ? RenameOutcome::Succeeded : RenameOutcome::Failed;
 }
 
 std::optional<QUrl> BRRenameFormat::restoreBookmark(const QString &path,

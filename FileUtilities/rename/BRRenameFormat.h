@@ -93,7 +93,7 @@ public:
     // its name, if any) in its folder, and sets the row's outcome.
     // Never replaces anything: an existing target, or a target name that cannot be one file
     // name in that folder ("", ".", "..", a '/' or NUL, too long), fails and nothing
-    // moves. sourceURL is left as it was, also after a move. An absent URL, one without a
+    // moves; a file that has the name already is left as it is. sourceURL is left as it was, also after a move. An absent URL, one without a
     // path, or a key without a record does nothing.
     void renameFile(const std::optional<QUrl> &sourceURL, const QString &newName,
                     RenameFileDetails &details, const QString &key) const;
