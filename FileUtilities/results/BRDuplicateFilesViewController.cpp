@@ -712,21 +712,20 @@ void BRDuplicateFilesViewController::keepOneRunEnded()
         showDuplicateStatusView();
 }
 
-bool BRDuplicateFilesViewController::removeFileAtPath(const QString &path, const QString &key)
+void BRDuplicateFilesViewController::removeFileAtPath(const QString &path, const QString &key)
 {
     // Only a copy that went behind our back comes here: it leaves the group as if it had
     // been removed here. One that exists goes through the check and the Trash on a worker.
     if (fileExistsAtPath(path))
-        return false;
+        return;
     const GroupRecord *record = m_results->groups().find(key);
     if (!record)
-        return false;
+        return;
     showAlert(QStringLiteral("File does not exist"),
               record->fileName + QStringLiteral(" does not exist"));
     m_results->dropVanishedCopy(key, path);
     if (m_results->groups().isEmpty())
         showDuplicateStatusView();
-    return false;
 }
 
 void BRDuplicateFilesViewController::openURLData(int index, const QString &key)

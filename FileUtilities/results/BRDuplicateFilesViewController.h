@@ -125,7 +125,8 @@ private:
     void scanCompleted(qint64 duplicatesFound);
     void scanFoundNothing();
     void pollScanProgress();
-    bool removeFileAtPath(const QString &path, const QString &key);
+    // The copy went behind the program's back: it leaves its group, and the user is told.
+    void removeFileAtPath(const QString &path, const QString &key);
     void removalFinished(const CopyRemoval::Result &result);
     void copyWentToTrash(const QString &key, const QString &path);
     void batchRemovalFinished(const CopyRemoval::Result &result);

@@ -62,6 +62,8 @@ public:
     bool start(const Request &request);
     bool isPending(const QString &path) const { return m_pending.contains(path); }
     bool isBusy() const { return !m_pending.isEmpty(); }
+    // A number for a run of many requests, so that each run knows its own results.
+    quint64 newBatch() { return ++m_lastBatch; }
 
     // Checks under way stop; a copy not yet moved stays where it is, and says so.
     void stopChecks();
@@ -81,6 +83,7 @@ private:
     QThreadPool m_pool;
     std::shared_ptr<std::atomic<bool>> m_stop;
     quint64 m_generation = 0;
+    quint64 m_lastBatch = 0;
     QSet<QString> m_pending;
 };
 

@@ -6,17 +6,11 @@ namespace {
 // never waits on the main one.
 constexpr int mostInFlight = 2;
 
-quint64 nextBatch()
-{
-    static std::atomic<quint64> counter{0};
-    return ++counter;
-}
-
 } // namespace
 
 KeepOneRun::KeepOneRun(CopyRemoval &removal, const GroupMap &groups, const KeepOnePlan &plan,
                        QObject *parent)
-    : QObject(parent), m_removal(removal), m_batch(nextBatch())
+    : QObject(parent), m_removal(removal), m_batch(removal.newBatch())
 {
     for (const KeepOnePlan::Group &group : plan.groups()) {
         const GroupRecord *record = groups.find(group.key);
