@@ -2,10 +2,13 @@
 """Build a deterministic file tree for benchmarking duplicate finders.
 
 usage: make_tree.py OUT_DIR [--files N] [--folders M] [--seed S] [--large K]
+                    [--deep D] [--wide W]
 
 Mostly small files with unique content, about 3% above 64 KiB (a third of
 those are copies), and K large originals of 10-100 MB copied once or twice.
-Same arguments give the same names, sizes and bytes.
+--deep adds a chain of D nested folders that take files like any other, and --wide
+puts about W of the small files into one folder; without them the tree is the one
+earlier figures were measured on. Same arguments give the same names, sizes and bytes.
 """
 
 import argparse
@@ -129,6 +132,10 @@ def main():
     ap.add_argument("--seed", type=int, default=1)
     ap.add_argument("--large", type=int, default=6,
                     help="large originals of 10-100 MB (default 6)")
+    ap.add_argument("--deep", type=int, default=0,
+                    help="a chain of this many nested folders (default 0)")
+    ap.add_argument("--wide", type=int, default=0,
+                    help="about this many small files in one folder (default 0)")
     a = ap.parse_args()
     if a.folders < 4:
         ap.error("--folders must be at least 4")
@@ -142,6 +149,18 @@ def main():
     t0 = time.monotonic()
     rng = random.Random(a.seed)
     folders, n_folders = make_folders(rng, a.out_dir, a.folders)
+    if a.deep:
+        parent = folders[0]
+        for level in range(a.deep):
+            parent = os.path.join(parent, "Nested_%04d" % level)
+            os.mkdir(parent)
+            folders.append(parent)
+        n_folders += a.deep
+    wide_folder = None
+    if a.wide:
+        wide_folder = os.path.join(a.out_dir, "Inbox")
+        os.mkdir(wide_folder)
+        n_folders += 1
 
     pool = rng.randbytes(MEDIUM_MAX + MIB)
     text = " ".join(rng.choice(TEXT_WORDS) + ("\n" if rng.random() < 0.1 else "")
@@ -190,6 +209,8 @@ def main():
         src = text if ext == ".txt" else pool
         off = rng.randrange(len(src) - size)
         folder = rng.choice(folders)
+        if wide_folder and rng.random() < a.wide / n_small:
+            folder = wide_folder
         path = place(folder, new_name(ext, idx))
         write_file(path, (pool_content(src, ext, idx, size, off),))
         small.append((path, folder, ext, size, off, idx))

@@ -1,10 +1,15 @@
 #pragma once
 
 #include "DirectoryEntry.h"
+#include "FolderListing.h"
+#include "FolderPrefetcher.h"
+#include "WalkTuning.h"
 
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -19,15 +24,25 @@
 // by a full path, which may be longer than the system takes. Only the innermost folders
 // keep theirs, a bounded number whatever the depth, so a deep tree never starves the rest
 // of the program of descriptors; the walk opens an outer folder again, one name at a
-// time down from the nearest folder still open, when it comes back to it.
+// time down from the nearest folder still open, when it comes back to it. Folders listed
+// ahead by other threads hold theirs until the walk takes them, a few dozen at most.
 class DirectoryEnumerator
 {
 public:
-    // Fails when the path is not a folder that can be read.
-    static std::optional<DirectoryEnumerator> open(const QString &rootPath);
+    // Fails when the path is not a folder that can be read. With listing workers in
+    // `tuning`, folders are listed ahead of the walk; the entries come the same either way.
+    static std::optional<DirectoryEnumerator> open(const QString &rootPath,
+                                                   const WalkTuning &tuning = {});
 
     // The next entry, or nothing when the walk is over.
     std::optional<DirectoryEntry> nextEntry();
+
+    // Called on the walking thread with each folder's listing as the walk enters it, the
+    // root's included, before any of its entries is yielded.
+    void setFolderEntered(std::function<void(const FolderListing &)> handler)
+    {
+        m_folderEntered = std::move(handler);
+    }
 
     QString rootPath() const { return m_rootPath; }
 
@@ -35,45 +50,35 @@ public:
     static QString absoluteFolderPath(const QString &path);
 
 private:
-    struct ListedEntry
-    {
-        qsizetype nameOffset; // into the folder's names, where each name ends with a NUL
-        qsizetype nameLength;
-        DirectoryEntry::Kind kind;
-        FileStamp stamp;
-    };
     struct OpenFolder
     {
-        OpenFolder() = default;
-        OpenFolder(OpenFolder &&other) noexcept;
-        OpenFolder &operator=(OpenFolder &&other) noexcept;
-        ~OpenFolder();
-
-        int descriptor = -1;
+        FolderListing listing;
+        FolderPrefetcher::Place place;
+        size_t next = 0;
+    };
+    struct FolderToEnter
+    {
+        QByteArray nativeName;
         QByteArray nativePath;
         QString path;
-        QByteArray names; // all names of the folder in one allocation
-        std::vector<ListedEntry> entries;
-        size_t next = 0;
+        FolderPrefetcher::Place place;
     };
 
     DirectoryEnumerator() = default;
+    void enter(FolderToEnter target);
+    void pushFolder(FolderListing listing, FolderPrefetcher::Place place, bool offer);
     // Closes the outermost descriptors beyond the bound.
     void limitHeldDescriptors();
     // Gives the folder at `level` its descriptor again, opened name by name from the
     // nearest open folder above it (or from the root).
     void reopen(size_t level);
     static int heldDescriptorBound();
-    static std::optional<OpenFolder> readFolder(int descriptor, const QByteArray &nativePath,
-                                                const QString &path);
 
     QString m_rootPath;
     std::vector<OpenFolder> m_openFolders;
-    struct FolderToEnter
-    {
-        QByteArray nativeName;
-        QByteArray nativePath;
-        QString path;
-    };
     std::optional<FolderToEnter> m_folderToEnter;
+    bool m_rootAnnounced = false;
+    std::function<void()> m_beforeRead;
+    std::function<void(const FolderListing &)> m_folderEntered;
+    std::unique_ptr<FolderPrefetcher> m_prefetcher;
 };

@@ -8,6 +8,8 @@
 
 #include <climits>
 
+#include <fcntl.h>
+
 namespace {
 
 // Files must be larger than this to be compared; folders must reach one byte less.
@@ -39,6 +41,7 @@ void BRDuplicateFinderClass::clearScanData()
     m_fileDict.clear();
     m_stackOfArray.items.clear();
     m_longPathFingerprints.clear();
+    m_firstOfSize.clear();
 }
 
 std::optional<DirectoryEnumerator>
@@ -76,7 +79,8 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
     // The type database reads its files on first use. Used first deep inside a tree, it
     // would compete with the walk for descriptors, and a failed load names no type at all.
     m_types.typeForFileName(QStringLiteral("load.txt"));
-    auto enumerator = directoryEnumeratorForPath(path);
+    const WalkTuning tuning = m_tuning.value_or(WalkTuning::forFolder(path));
+    auto enumerator = DirectoryEnumerator::open(path, tuning);
     if (!enumerator) {
         qCWarning(scanLog).noquote() << "cannot walk" << path << "- the scan finds nothing";
         // The screen waits for a final report; an unreadable folder simply found nothing.
@@ -84,6 +88,12 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
         if (!cancelActive())
             report(locker, true, QString());
         return;
+    }
+
+    if (tuning.fingerprintWorkers > 0) {
+        m_readAhead = std::make_unique<FingerprintReadAhead>(
+            tuning.fingerprintWorkers, tuning.fingerprintsAhead, tuning.beforeRead);
+        enumerator->setFolderEntered([this](const FolderListing &folder) { readAheadIn(folder); });
     }
 
     std::optional<QString> previousFolderPath;
@@ -139,6 +149,8 @@ void BRDuplicateFinderClass::findDuplicatesInFolder(const QString &path)
 
     if (m_stackOfArray.count() > 0)
         closeFolders(QString(), lastFilePath);
+    m_readAhead.reset();
+    m_firstOfSize.clear();
     QMutexLocker locker(&m_tablesMutex);
     if (!cancelActive())
         report(locker, true, QString());
@@ -165,8 +177,10 @@ VideoHash BRDuplicateFinderClass::fingerprintOf(const DirectoryEntry &file)
     // files are opened at all; anything else fingerprints as unreadable.
     if (!file.isRegularFile())
         return VideoHash{};
+    std::optional<VideoHash> ahead = m_readAhead ? m_readAhead->take(file.path) : std::nullopt;
     VideoHash hash =
-        m_oshash.hashForFileInFolder(file.folderDescriptor, file.nativeName, file.path);
+        ahead ? std::move(*ahead)
+              : m_oshash.hashForFileInFolder(file.folderDescriptor, file.nativeName, file.path);
     if (hash.fileHash.isEmpty())
         qCDebug(scanLog).noquote() << "no fingerprint of" << file.path << ": it cannot be read";
     return hash;
@@ -177,7 +191,55 @@ VideoHash BRDuplicateFinderClass::fingerprintOfPath(const QString &path)
     if (const auto kept = m_longPathFingerprints.constFind(path);
         kept != m_longPathFingerprints.constEnd())
         return *kept;
+    if (m_readAhead) {
+        if (std::optional<VideoHash> ahead = m_readAhead->take(path))
+            return *ahead;
+    }
     return m_oshash.hashForFileAtPath(path);
+}
+
+void BRDuplicateFinderClass::readAheadIn(const FolderListing &folder)
+{
+    std::shared_ptr<const FileDescriptor> shared;
+    const auto ask = [this, &folder, &shared](const FolderListing::Entry &entry) {
+        // The walk may close its descriptor before a worker comes to the file.
+        if (!shared && folder.descriptor() >= 0)
+            shared = std::make_shared<const FileDescriptor>(
+                ::fcntl(folder.descriptor(), F_DUPFD_CLOEXEC, 0));
+        m_readAhead->request(folder.childPath(entry), shared,
+                             QByteArray(folder.rawName(entry), entry.nameLength));
+    };
+
+    qint64 filesBytes = 0;
+    const FolderListing::Entry *first = nullptr;
+    for (const FolderListing::Entry &entry : folder.entries()) {
+        if (entry.kind != DirectoryEntry::Kind::File)
+            continue;
+        const qint64 size = entry.stamp.size;
+        filesBytes += size;
+        if (!first)
+            first = &entry;
+        if (size < smallestComparedFileSize)
+            continue;
+        const auto seen = m_firstOfSize.find(size);
+        if (seen == m_firstOfSize.end()) {
+            m_firstOfSize.insert(size, FirstOfSize{folder.childPath(entry)});
+            continue;
+        }
+        if (!seen->asked) {
+            seen->asked = true;
+            if (QFile::encodeName(seen->path).size() < PATH_MAX)
+                m_readAhead->request(seen->path, nullptr, QByteArray());
+        }
+        ask(entry);
+    }
+    // A folder of this much in files alone will be compared when it closes.
+    if (first && filesBytes >= smallestComparedFolderSize) {
+        ask(*first);
+        const FolderListing::Entry &last = folder.entries().back();
+        if (&last != first && last.kind == DirectoryEntry::Kind::File)
+            ask(last);
+    }
 }
 
 // A path too long for the system to open whole can still be opened inside its folder, but

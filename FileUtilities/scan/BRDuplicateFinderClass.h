@@ -5,12 +5,14 @@
 #include "DirectoryEntry.h"
 #include "DirectoryEnumerator.h"
 #include "FileTypeDatabase.h"
+#include "FingerprintReadAhead.h"
 #include "FolderRecord.h"
 #include "GroupMap.h"
 #include "OSHashAlgorithm.h"
 #include "ScanReportSink.h"
 #include "Stack.h"
 #include "StackEntry.h"
+#include "WalkTuning.h"
 
 #include <QHash>
 #include <QMutex>
@@ -40,6 +42,9 @@ public:
 
     // Walks `path` and reports as it goes; returns when the walk ends or is cancelled.
     void findDuplicatesInFolder(const QString &path);
+    // How much reading is done ahead of the walk; without a call, what suits the device.
+    // The reports do not depend on it.
+    void setWalkTuning(const WalkTuning &tuning) { m_tuning = tuning; }
 
     // Any thread. The walk stops at the head of its next entry, clears its tables and
     // makes no further report.
@@ -105,6 +110,9 @@ private:
     VideoHash fingerprintOfPath(const QString &path);
     void rememberFingerprintOfLongPath(const DirectoryEntry &file);
     void takeFirstHash(FolderRecord &record);
+    // Asks for the fingerprints the walk will want in a folder it has just entered: files
+    // whose size an earlier file had, and a large enough folder's first and last files.
+    void readAheadIn(const FolderListing &folder);
     // Reports outside the lock, so that a receiver may call back into the finder.
     void report(QMutexLocker<QMutex> &locker, bool completeStatus, const QString &key);
 
@@ -135,4 +143,12 @@ private:
     bool m_folderHasMarker = false;
     std::shared_ptr<ThumbnailCache> m_thumbnails;
     QHash<QString, VideoHash> m_longPathFingerprints;
+    std::optional<WalkTuning> m_tuning;
+    std::unique_ptr<FingerprintReadAhead> m_readAhead;
+    struct FirstOfSize
+    {
+        QString path;
+        bool asked = false;
+    };
+    QHash<qint64, FirstOfSize> m_firstOfSize; // for read-ahead only; decides nothing
 };

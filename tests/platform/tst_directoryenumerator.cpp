@@ -4,15 +4,21 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRandomGenerator>
 #include <QScopeGuard>
 #include <QTest>
 
+#include <algorithm>
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,16 +28,36 @@ ino_t inode(int folder, const QByteArray &name)
     return ::fstatat(folder, name.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0 ? info.st_ino : 0;
 }
 
+int openDescriptors()
+{
+    return static_cast<int>(QDir(u"/proc/self/fd"_s).entryList(QDir::Files | QDir::System).size());
+}
+
+// Listings read ahead by four threads, which finish in shuffled order.
+WalkTuning listingAhead(int foldersAhead)
+{
+    WalkTuning tuning;
+    tuning.listingWorkers = 4;
+    tuning.foldersAhead = foldersAhead;
+    tuning.beforeRead = [] {
+        QRandomGenerator *random = QRandomGenerator::global();
+        std::this_thread::sleep_for(std::chrono::microseconds(random->bounded(400)));
+    };
+    return tuning;
+}
+
 // The walk as "relative/path size" for files and "relative/path/" for folders, with any
 // fault of an entry's path, name or folder descriptor written into its line.
-QStringList walk(const QString &root)
+QStringList walk(const QString &root, const WalkTuning &tuning = {}, int *mostOpen = nullptr)
 {
-    auto enumerator = DirectoryEnumerator::open(root);
+    auto enumerator = DirectoryEnumerator::open(root, tuning);
     if (!enumerator)
         return {QStringLiteral("<cannot open>")};
     QStringList lines;
     const QString prefix = enumerator->rootPath() + u'/';
     while (const auto entry = enumerator->nextEntry()) {
+        if (mostOpen)
+            *mostOpen = std::max(*mostOpen, openDescriptors());
         const QString &path = entry->path;
         const QByteArray native = QFile::encodeName(path);
         QString line = path.startsWith(prefix) ? path.mid(prefix.size()) : QStringLiteral("<out>");
@@ -96,6 +122,31 @@ private Q_SLOTS:
         const rlimit scarce = {rlim_t(lowestFree + 4), saved.rlim_max}; // far below the depth
         QCOMPARE(::setrlimit(RLIMIT_NOFILE, &scarce), 0);
         QCOMPARE(walk(dir.path()), expected);
+        // Threads listing ahead find no descriptor either; the walk does without them.
+        QCOMPARE(walk(dir.path(), listingAhead(8)), expected);
+    }
+
+    // Folders listed ahead come in the walk's own order, and however many subfolders wait,
+    // only a few listings (each with its descriptor) are held ahead of the walk.
+    void listingAheadKeepsTheWalkAndItsBounds()
+    {
+        TestDir dir;
+        for (int i = 0; i < 400; ++i)
+            dir.createFile(QStringLiteral("wide/w%1/f").arg(i, 3, 10, QLatin1Char('0')), "1");
+        for (QString prefix = QStringLiteral("d/"); prefix.size() <= 20; prefix += u"d/")
+            dir.createFile(prefix + QStringLiteral("x/f"), "22");
+        dir.createFile(QStringLiteral("z"), "333");
+        const QStringList alone = walk(dir.path());
+        QCOMPARE(alone.size(), 1 + 2 * 400 + 3 * 10 + 1);
+        const int before = openDescriptors();
+        for (const int ahead : {1, 6, 64}) {
+            int mostOpen = 0;
+            QCOMPARE(walk(dir.path(), listingAhead(ahead), &mostOpen), alone);
+            // The walk's own folders (at most 12 deep), those held ahead, and the listing
+            // being read by each thread.
+            QVERIFY2(mostOpen <= before + 12 + ahead + 4, qPrintable(QString::number(mostOpen)));
+        }
+        QCOMPARE(openDescriptors(), before);
     }
 
     void open_data()

@@ -13,15 +13,18 @@ namespace {
 constexpr int usageError = 2;
 
 const char usage[] =
-    "Usage: quillmere-scan [--json] PATH\n"
+    "Usage: quillmere-scan [--json] [--single-thread] PATH\n"
     "\n"
     "Finds duplicate files and folders below PATH in one pass.\n"
     "Files above 64 KiB of equal size and type are compared by fingerprint;\n"
     "folders by total size, entry count and the fingerprints of their first and last files.\n"
     "Hidden files and folders, and every path containing \".app\", are skipped.\n"
     "\n"
-    "  --json   print every report of the scan as it happens, one JSON object per line\n"
-    "  --help   show this text\n"
+    "  --json           print every report of the scan as it happens, one JSON object\n"
+    "                   per line\n"
+    "  --single-thread  read every folder and file on the scanning thread instead of\n"
+    "                   ahead of it on a few more; slower, with the same reports\n"
+    "  --help           show this text\n"
     "\n"
     "Exit status: 0 when the scan ran, 2 when PATH is not a readable folder or the\n"
     "arguments are wrong.\n";
@@ -40,6 +43,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("quillmere-scan"));
 
     bool json = false;
+    bool singleThread = false;
     QStringList paths;
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     for (qsizetype i = 0; i < arguments.size(); ++i) {
@@ -50,6 +54,8 @@ int main(int argc, char *argv[])
         }
         if (argument == QStringLiteral("--json")) {
             json = true;
+        } else if (argument == QStringLiteral("--single-thread")) {
+            singleThread = true;
         } else if (argument == QStringLiteral("--")) {
             paths += arguments.mid(i + 1);
             break;
@@ -74,6 +80,8 @@ int main(int argc, char *argv[])
 
     CommandLineReporter reporter(stdout, json);
     BRDuplicateFinderClass finder(&reporter);
+    if (singleThread)
+        finder.setWalkTuning(WalkTuning::oneThread());
     finder.findDuplicatesInFolder(path);
 
     if (!json) {
