@@ -63,7 +63,11 @@ private:
     void work();
     // Reads the folder by its path, and only if it is still the folder its parent listed.
     std::optional<FolderListing> read(const Slot &slot) const;
-    void offerLocked(const FolderListing &listing, const Place &place);
+    // The subfolders of `listing` as waiting slots, built outside the lock.
+    static std::vector<std::pair<Place, Slot>> subfoldersOf(const FolderListing &listing,
+                                                            const Place &place);
+    // Adds them as far as there is room, and wakes as many idle workers.
+    void offerLocked(std::vector<std::pair<Place, Slot>> offered);
 
     static constexpr size_t mostWaiting = 4096;
     static constexpr size_t deepestPlace = 256;
@@ -71,9 +75,15 @@ private:
     const int m_foldersAhead;
     const std::function<void()> m_beforeRead;
     mutable std::mutex m_mutex;
-    std::condition_variable m_changed;
+    // Each side is woken only when the other has something for it: waking every thread for
+    // every folder costs more than the listing itself on a warm cache.
+    std::condition_variable m_workToDo;
+    std::condition_variable m_listed;
     std::map<Place, Slot> m_slots;
+    size_t m_waitingSlots = 0;
     int m_busy = 0; // slots Reading or Ready, and reads whose slot the walk passed
+    int m_idleWorkers = 0;
+    bool m_walkWaits = false;
     bool m_stopping = false;
     std::vector<std::thread> m_workers;
 };

@@ -200,14 +200,15 @@ VideoHash BRDuplicateFinderClass::fingerprintOfPath(const QString &path)
 
 void BRDuplicateFinderClass::readAheadIn(const FolderListing &folder)
 {
+    std::vector<FingerprintReadAhead::Request> wanted;
     std::shared_ptr<const FileDescriptor> shared;
-    const auto ask = [this, &folder, &shared](const FolderListing::Entry &entry) {
+    const auto ask = [&folder, &shared, &wanted](const FolderListing::Entry &entry) {
         // The walk may close its descriptor before a worker comes to the file.
         if (!shared && folder.descriptor() >= 0)
             shared = std::make_shared<const FileDescriptor>(
                 ::fcntl(folder.descriptor(), F_DUPFD_CLOEXEC, 0));
-        m_readAhead->request(folder.childPath(entry), shared,
-                             QByteArray(folder.rawName(entry), entry.nameLength));
+        wanted.push_back(
+            {folder.childPath(entry), shared, QByteArray(folder.rawName(entry), entry.nameLength)});
     };
 
     qint64 filesBytes = 0;
@@ -229,7 +230,7 @@ void BRDuplicateFinderClass::readAheadIn(const FolderListing &folder)
         if (!seen->asked) {
             seen->asked = true;
             if (QFile::encodeName(seen->path).size() < PATH_MAX)
-                m_readAhead->request(seen->path, nullptr, QByteArray());
+                wanted.push_back({seen->path, nullptr});
         }
         ask(entry);
     }
@@ -240,6 +241,8 @@ void BRDuplicateFinderClass::readAheadIn(const FolderListing &folder)
         if (&last != first && last.kind == DirectoryEntry::Kind::File)
             ask(last);
     }
+    if (!wanted.empty())
+        m_readAhead->request(std::move(wanted));
 }
 
 // A path too long for the system to open whole can still be opened inside its folder, but

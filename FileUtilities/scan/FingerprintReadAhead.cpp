@@ -17,7 +17,7 @@ FingerprintReadAhead::~FingerprintReadAhead()
         std::lock_guard lock(m_mutex);
         m_stopping = true;
     }
-    m_changed.notify_all();
+    m_workToDo.notify_all();
     for (std::thread &worker : m_workers)
         worker.join();
 }
@@ -34,41 +34,44 @@ bool FingerprintReadAhead::makeRoomLocked()
     return false;
 }
 
-void FingerprintReadAhead::request(const QString &path,
-                                   std::shared_ptr<const FileDescriptor> folder,
-                                   const QByteArray &nativeName)
+void FingerprintReadAhead::request(std::vector<Request> requests)
 {
+    size_t added = 0;
     {
         std::lock_guard lock(m_mutex);
-        if (m_jobs.contains(path) || !makeRoomLocked())
-            return;
-        const quint64 order = m_nextOrder++;
-        m_jobs.insert(path, Job{order, State::Waiting, std::move(folder), nativeName, {}});
-        m_waiting.emplace_back(order, path);
+        for (Request &wanted : requests) {
+            if (m_jobs.contains(wanted.path))
+                continue;
+            if (!makeRoomLocked())
+                break;
+            const quint64 order = m_nextOrder++;
+            m_jobs.insert(wanted.path, Job{order,
+                                           State::Waiting,
+                                           std::move(wanted.folder),
+                                           std::move(wanted.nativeName),
+                                           {}});
+            m_waiting.emplace_back(order, std::move(wanted.path));
+            ++added;
+        }
     }
-    m_changed.notify_one();
+    if (added == 1)
+        m_workToDo.notify_one();
+    else if (added > 1)
+        m_workToDo.notify_all();
 }
 
 std::optional<VideoHash> FingerprintReadAhead::take(const QString &path)
 {
-    std::unique_lock lock(m_mutex);
-    auto job = m_jobs.find(path);
+    std::lock_guard lock(m_mutex);
+    const auto job = m_jobs.find(path);
     if (job == m_jobs.end())
         return std::nullopt;
-    if (job->state == State::Waiting) {
-        m_jobs.erase(job); // its queue entry is skipped when a worker reaches it
-        return std::nullopt;
+    std::optional<VideoHash> hash;
+    if (job->state == State::Ready) {
+        hash = std::move(job->hash);
+        m_unclaimed.erase(job->order);
     }
-    const quint64 order = job->order;
-    m_changed.wait(lock, [this, &path, &job, order] {
-        job = m_jobs.find(path);
-        return job == m_jobs.end() || job->order != order || job->state == State::Ready;
-    });
-    if (job == m_jobs.end() || job->order != order)
-        return std::nullopt;
-    VideoHash hash = std::move(job->hash);
-    m_unclaimed.erase(order);
-    m_jobs.erase(job);
+    m_jobs.erase(job); // a queued request is skipped, a running one's result dropped
     return hash;
 }
 
@@ -77,7 +80,7 @@ void FingerprintReadAhead::work()
     OSHashAlgorithm fingerprint;
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_changed.wait(lock, [this] { return m_stopping || !m_waiting.empty(); });
+        m_workToDo.wait(lock, [this] { return m_stopping || !m_waiting.empty(); });
         if (m_stopping)
             return;
         const auto [order, path] = std::move(m_waiting.front());
@@ -101,6 +104,5 @@ void FingerprintReadAhead::work()
             job->folder.reset();
             m_unclaimed.emplace(order, path);
         }
-        m_changed.notify_all();
     }
 }

@@ -21,11 +21,13 @@
 // Takes fingerprints of files the scan will soon ask about, on a few threads of its own,
 // so that their bytes are read while the scan works on other entries.
 //
-// The scan asks for a file as soon as it knows it will need it and takes the fingerprint
-// when it gets there: ready, or waited for while a worker reads it. A request no worker has
-// started is withdrawn and the scan reads the file itself, so the scan never waits behind
-// a queue. At most `ahead` requests are held; the oldest unclaimed fingerprint gives way
-// to a new request, and when all are still being read a new request is dropped.
+// The scan asks for a folder's files as soon as it knows it will need them and takes each
+// fingerprint when it gets there. One not ready yet is withdrawn and the scan reads the
+// file itself: the scan never waits on a worker, and a read still running has brought at
+// least part of the bytes into the page cache, so the scan's own read waits on the disk no
+// longer than the worker would have. At most `ahead` requests are held; the oldest
+// unclaimed fingerprint gives way to a new request, and when all are still being read the
+// rest of a folder's requests are dropped.
 class FingerprintReadAhead
 {
 public:
@@ -34,11 +36,15 @@ public:
     FingerprintReadAhead(const FingerprintReadAhead &) = delete;
     FingerprintReadAhead &operator=(const FingerprintReadAhead &) = delete;
 
-    // The file `nativeName` in the folder open on `folder`, or by its path when there is no
-    // folder. A file asked for already is not asked for again.
-    void request(const QString &path, std::shared_ptr<const FileDescriptor> folder,
-                 const QByteArray &nativeName);
-    // The fingerprint of `path` when a worker has taken or is taking it; nothing otherwise.
+    struct Request
+    {
+        QString path;
+        std::shared_ptr<const FileDescriptor> folder; // none: opened by its path
+        QByteArray nativeName = {};                   // the name within `folder`
+    };
+    // Files asked for already are not asked for again.
+    void request(std::vector<Request> requests);
+    // The fingerprint of `path` when a worker has taken it; nothing otherwise.
     std::optional<VideoHash> take(const QString &path);
 
 private:
@@ -64,7 +70,7 @@ private:
     const int m_ahead;
     const std::function<void()> m_beforeRead;
     std::mutex m_mutex;
-    std::condition_variable m_changed;
+    std::condition_variable m_workToDo;
     QHash<QString, Job> m_jobs;
     std::deque<std::pair<quint64, QString>> m_waiting; // oldest first; withdrawn ones stay
     std::map<quint64, QString> m_unclaimed;            // ready fingerprints, oldest first
