@@ -41,15 +41,18 @@ WalkTuning WalkTuning::forFolder(const QString &path)
 {
     const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     WalkTuning tuning;
+    // Listing a folder is many small reads of metadata, which every device serves better
+    // with more of them queued (a disk's elevator sorts them by position), so even a
+    // spinning disk gets a few workers; flash gets as many as keep its queues full.
     if (isOnRotatingDisk(path)) {
-        tuning.listingWorkers = 2;
-        tuning.foldersAhead = 8;
-        tuning.fingerprintWorkers = 2;
-        tuning.fingerprintsAhead = 16;
-    } else {
-        tuning.listingWorkers = std::clamp(2 * cores, 2, 8);
+        tuning.listingWorkers = 4;
         tuning.foldersAhead = 32;
-        tuning.fingerprintWorkers = std::clamp(2 * cores, 2, 8);
+        tuning.fingerprintWorkers = 2;
+        tuning.fingerprintsAhead = 32;
+    } else {
+        tuning.listingWorkers = std::clamp(4 * cores, 4, 16);
+        tuning.foldersAhead = 64;
+        tuning.fingerprintWorkers = std::clamp(2 * cores, 4, 8);
         tuning.fingerprintsAhead = 64;
     }
     // Both hold descriptors (a folder each) beside the walk's own quarter of the limit.

@@ -19,8 +19,8 @@ struct WalkTuning
 
     // Everything on the walking thread, as a reference for the tuned walk.
     static WalkTuning oneThread() { return {}; }
-    // What suits the device holding `path`: a spinning disk gains from a short queue it may
-    // reorder and loses to many heads seeking at once; flash keeps many reads in flight.
+    // What suits the device holding `path`: a spinning disk gets fewer readers and a
+    // shorter queue than flash, which keeps many reads in flight.
     static WalkTuning forFolder(const QString &path);
     // The device's own word, from sysfs; unknown devices count as flash.
     static bool isOnRotatingDisk(const QString &path);

@@ -149,6 +149,31 @@ private Q_SLOTS:
         QCOMPARE(openDescriptors(), before);
     }
 
+    // Reading ahead holds descriptors beside the walk's; a low limit shrinks it, and one too
+    // low for any turns it off rather than starving the walk.
+    void tuningStaysWithinTheDescriptorLimit_data()
+    {
+        QTest::addColumn<int>("limit");
+        QTest::newRow("plenty") << 4096;
+        QTest::newRow("scarce") << 64;
+        QTest::newRow("too few") << 7;
+    }
+    void tuningStaysWithinTheDescriptorLimit()
+    {
+        QFETCH(int, limit);
+        rlimit saved{};
+        QCOMPARE(::getrlimit(RLIMIT_NOFILE, &saved), 0);
+        limit = static_cast<int>(std::min<rlim_t>(rlim_t(limit), saved.rlim_max));
+        const auto restore = qScopeGuard([saved] { ::setrlimit(RLIMIT_NOFILE, &saved); });
+        const rlimit lowered = {rlim_t(limit), saved.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &lowered), 0);
+        const WalkTuning tuning = WalkTuning::forFolder(QDir::tempPath());
+        QVERIFY(tuning.foldersAhead + tuning.fingerprintsAhead <= limit / 4);
+        QCOMPARE(tuning.listingWorkers > 0, tuning.foldersAhead > 0);
+        QCOMPARE(tuning.fingerprintWorkers > 0, tuning.fingerprintsAhead > 0);
+        QCOMPARE(tuning.listingWorkers > 0, limit >= 8);
+    }
+
     void open_data()
     {
         // Working folder | path given ("@": the test folder) | root path expected ("": none)
