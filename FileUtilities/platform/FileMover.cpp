@@ -85,22 +85,32 @@ FileMover::Result FileMover::moveByLink(const QString &sourcePath, const QString
 
 bool FileMover::isValidFileName(const QString &name, const QString &folderPath)
 {
-    if (name.isEmpty() || name == QLatin1String(".") || name == QLatin1String(".."))
-        return false;
-    if (name.contains(QLatin1Char('/')) || name.contains(QChar(u'\0')))
-        return false;
+    return problemWithName(name, nameMaxIn(folderPath)) == NameProblem::None;
+}
+
+FileMover::NameProblem FileMover::problemWithName(const QString &name, long nameMax)
+{
+    if (name.isEmpty())
+        return NameProblem::Empty;
+    if (name == QLatin1String(".") || name == QLatin1String(".."))
+        return NameProblem::DotOrDotDot;
+    if (name.contains(QLatin1Char('/')))
+        return NameProblem::Slash;
+    if (name.contains(QChar(u'\0')))
+        return NameProblem::Nul;
     const QByteArray native = QFile::encodeName(name);
     // An unpaired surrogate has no encoding: the file would get another name than shown.
     // A leading U+FEFF belongs to the name, so the decoder must keep it.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
     if (QString(decoder.decode(native)) != name)
-        return false;
-    long limit = NAME_MAX;
-    if (!folderPath.isEmpty()) {
-        const long folderLimit =
-            ::pathconf(QFile::encodeName(folderPath).constData(), _PC_NAME_MAX);
-        if (folderLimit > 0)
-            limit = folderLimit;
-    }
-    return native.size() <= limit;
+        return NameProblem::NotEncodable;
+    return native.size() <= nameMax ? NameProblem::None : NameProblem::TooLong;
+}
+
+long FileMover::nameMaxIn(const QString &folderPath)
+{
+    if (folderPath.isEmpty())
+        return NAME_MAX;
+    const long limit = ::pathconf(QFile::encodeName(folderPath).constData(), _PC_NAME_MAX);
+    return limit > 0 ? limit : NAME_MAX;
 }

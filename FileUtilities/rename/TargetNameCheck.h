@@ -1,0 +1,31 @@
+#pragma once
+
+#include "NameCheck.h"
+
+#include <QString>
+
+#include <vector>
+
+// Checks a batch of planned names before any file moves: a name another row of the batch
+// takes in the same folder, a name held by a file that stays (on disk, or a listed file
+// that keeps its name), and a text that cannot be one file name. A name held by a listed
+// file that moves away itself is free: chains and rings of names are carried out in an
+// order that lets them succeed.
+//
+// It reads the disk (one lstat for each name not held by the batch) and nothing else, and
+// keeps no state, so it may run on a worker thread.
+class TargetNameCheck
+{
+public:
+    struct Row
+    {
+        QString sourcePath; // where the file is; "" for a row that has no file
+        QString targetName; // the whole new name; "" for a row without one
+        // Filled in by check():
+        QString targetPath = {};
+        NameCheck result = NameCheck::Unchecked;
+    };
+
+    // Fills in every row's result and target path; gives the number of Free rows.
+    static qsizetype check(std::vector<Row> &rows);
+};
