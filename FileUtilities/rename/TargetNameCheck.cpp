@@ -4,8 +4,14 @@
 
 #include <QFile>
 #include <QHash>
+#include <QSet>
 
+#include <optional>
+
+#include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -30,22 +36,6 @@ NameCheck checkOf(FileMover::NameProblem problem)
     return NameCheck::NoName;
 }
 
-// The folder part of a path without trailing slashes; "" when there is none.
-QString folderOf(QString path)
-{
-    while (path.size() > 1 && path.endsWith(QLatin1Char('/')))
-        path.chop(1);
-    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
-    if (slash < 0)
-        return QString();
-    return slash == 0 ? QStringLiteral("/") : path.left(slash);
-}
-
-QString joinedPath(const QString &folder, const QString &name)
-{
-    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
-}
-
 QString withoutTrailingSlashes(QString path)
 {
     while (path.size() > 1 && path.endsWith(QLatin1Char('/')))
@@ -53,49 +43,110 @@ QString withoutTrailingSlashes(QString path)
     return path;
 }
 
+// One folder of the batch, with its listed files' names and the rows' new names.
+struct Folder
+{
+    QString path;
+    long nameMax = 0;
+    QHash<QString, qsizetype> holders = {};     // listed files by their present names
+    QHash<QString, qsizetype> firstTarget = {}; // the first row after each new name
+};
+
+// A row split once into its folder and its present name.
+struct Place
+{
+    qsizetype folder = -1;
+    QString name;
+};
+
+// The names in the folder, as bytes, when reading them all costs less than asking for each
+// of `asked` names: one look-up costs as much as reading some sixteen entries. Nothing when
+// asking is cheaper or the folder cannot be read.
+std::optional<QSet<QByteArray>> listingFor(const QString &folder, size_t asked)
+{
+    constexpr size_t entriesPerLookup = 16;
+    // ext4 and its kin give a folder's size in bytes, some thirty a name.
+    constexpr qint64 bytesPerEntry = 32;
+    if (asked < 32)
+        return std::nullopt;
+    const QByteArray path = QFile::encodeName(folder);
+    struct stat info = {};
+    if (::stat(path.constData(), &info) != 0 ||
+        qint64(info.st_size) / bytesPerEntry > qint64(asked * entriesPerLookup))
+        return std::nullopt;
+    DIR *stream = ::opendir(path.constData());
+    if (!stream)
+        return std::nullopt;
+    QSet<QByteArray> names;
+    names.reserve(qsizetype(info.st_size / bytesPerEntry));
+    while (const dirent *entry = ::readdir(stream))
+        names.insert(QByteArray(entry->d_name));
+    ::closedir(stream);
+    return names;
+}
+
+// Whether something other than the row's own file has its new name, asked of the folder.
+bool takenAt(int folder, const QString &folderPath, const TargetNameCheck::Row &row)
+{
+    const QByteArray target = QFile::encodeName(
+        folder >= 0 ? row.targetName : folderPath + QLatin1Char('/') + row.targetName);
+    struct stat found = {};
+    if (::fstatat(folder >= 0 ? folder : AT_FDCWD, target.constData(), &found,
+                  AT_SYMLINK_NOFOLLOW) != 0)
+        return false;
+    // On a file system that ignores case, a.jpg is found under A.jpg: itself.
+    struct stat source = {};
+    return ::lstat(QFile::encodeName(row.sourcePath).constData(), &source) != 0 ||
+           source.st_dev != found.st_dev || source.st_ino != found.st_ino;
+}
+
 } // namespace
 
 qsizetype TargetNameCheck::check(std::vector<Row> &rows)
 {
     constexpr qsizetype none = -1;
-    // Asked once a folder: a batch is mostly one folder, and the question costs a call.
-    QHash<QString, long> nameMax;
-    // Which listed file holds each path now.
-    QHash<QString, qsizetype> holders;
-    holders.reserve(static_cast<qsizetype>(rows.size()));
-    for (qsizetype at = 0; at < qsizetype(rows.size()); ++at) {
-        Row &row = rows[size_t(at)];
+    std::vector<Folder> folders;
+    QHash<QString, qsizetype> folderIndex;
+    std::vector<Place> places(rows.size());
+    for (size_t at = 0; at < rows.size(); ++at) {
+        Row &row = rows[at];
         row.sourcePath = withoutTrailingSlashes(row.sourcePath);
-        if (!row.sourcePath.isEmpty())
-            holders.insert(row.sourcePath, at);
+        row.targetPath.clear();
+        const qsizetype slash = row.sourcePath.lastIndexOf(QLatin1Char('/'));
+        if (slash < 0)
+            continue;
+        const QString folderPath =
+            slash == 0 ? QStringLiteral("/") : QString(row.sourcePath.left(slash));
+        auto known = folderIndex.constFind(folderPath);
+        if (known == folderIndex.cend()) {
+            known = folderIndex.insert(folderPath, qsizetype(folders.size()));
+            folders.push_back({folderPath, FileMover::nameMaxIn(folderPath)});
+        }
+        places[at] = {*known, row.sourcePath.mid(slash + 1)};
+        // Every listed file holds its name, whether it moves or not.
+        folders[size_t(*known)].holders.insert(places[at].name, qsizetype(at));
     }
 
-    // First what each row alone says: no name, a name that cannot be one, the name it has.
-    QHash<QString, qsizetype> firstWithTarget;
-    firstWithTarget.reserve(static_cast<qsizetype>(rows.size()));
-    for (qsizetype at = 0; at < qsizetype(rows.size()); ++at) {
-        Row &row = rows[size_t(at)];
-        row.targetPath.clear();
-        const QString folder = folderOf(row.sourcePath);
-        if (row.targetName.isEmpty() || folder.isEmpty()) {
+    // First what each row says alone: no name, a name that cannot be one, the name it has;
+    // then two rows after one name, of which neither is the one to have it.
+    for (size_t at = 0; at < rows.size(); ++at) {
+        Row &row = rows[at];
+        const Place &place = places[at];
+        if (row.targetName.isEmpty() || place.folder == none) {
             row.result = NameCheck::NoName;
             continue;
         }
-        auto limit = nameMax.constFind(folder);
-        if (limit == nameMax.cend())
-            limit = nameMax.insert(folder, FileMover::nameMaxIn(folder));
-        row.result = checkOf(FileMover::problemWithName(row.targetName, *limit));
+        Folder &folder = folders[size_t(place.folder)];
+        row.result = checkOf(FileMover::problemWithName(row.targetName, folder.nameMax));
         if (row.result != NameCheck::Free)
             continue;
-        row.targetPath = joinedPath(folder, row.targetName);
-        if (row.targetPath == row.sourcePath) {
+        if (row.targetName == place.name) {
             row.result = NameCheck::Unchanged;
             continue;
         }
-        // Two rows after one name: neither is the one to have it.
-        const auto first = firstWithTarget.constFind(row.targetPath);
-        if (first == firstWithTarget.cend()) {
-            firstWithTarget.insert(row.targetPath, at);
+        const auto first = folder.firstTarget.constFind(row.targetName);
+        if (first == folder.firstTarget.cend()) {
+            folder.firstTarget.insert(row.targetName, qsizetype(at));
         } else {
             rows[size_t(*first)].result = NameCheck::SameAsAnotherRow;
             row.result = NameCheck::SameAsAnotherRow;
@@ -105,27 +156,40 @@ qsizetype TargetNameCheck::check(std::vector<Row> &rows)
     // Then the names held already. A listed file that moves away frees its name; one that
     // stays (or cannot move) holds it, and so does any file outside the batch.
     std::vector<qsizetype> waitsFor(rows.size(), none);
-    for (qsizetype at = 0; at < qsizetype(rows.size()); ++at) {
-        Row &row = rows[size_t(at)];
+    std::vector<std::vector<qsizetype>> onDisk(folders.size());
+    for (size_t at = 0; at < rows.size(); ++at) {
+        Row &row = rows[at];
         if (row.result != NameCheck::Free)
             continue;
-        const qsizetype holder = holders.value(row.targetPath, none);
-        if (holder != none) {
-            if (rows[size_t(holder)].result == NameCheck::Free)
-                waitsFor[size_t(at)] = holder;
-            else
-                row.result = NameCheck::TakenInFolder;
-            continue;
-        }
-        struct stat target = {};
-        if (::lstat(QFile::encodeName(row.targetPath).constData(), &target) != 0)
-            continue;
-        // On a file system that ignores case, a.jpg is found under A.jpg: itself.
-        struct stat source = {};
-        const bool itself = ::lstat(QFile::encodeName(row.sourcePath).constData(), &source) == 0 &&
-                            source.st_dev == target.st_dev && source.st_ino == target.st_ino;
-        if (!itself)
+        const Folder &folder = folders[size_t(places[at].folder)];
+        const qsizetype holder = folder.holders.value(row.targetName, none);
+        if (holder == none)
+            onDisk[size_t(places[at].folder)].push_back(qsizetype(at));
+        else if (rows[size_t(holder)].result == NameCheck::Free)
+            waitsFor[at] = holder;
+        else
             row.result = NameCheck::TakenInFolder;
+    }
+    for (size_t index = 0; index < folders.size(); ++index) {
+        if (onDisk[index].empty())
+            continue;
+        const Folder &folder = folders[index];
+        const std::optional<QSet<QByteArray>> listing =
+            listingFor(folder.path, onDisk[index].size());
+        const int descriptor = listing ? -1
+                                       : ::open(QFile::encodeName(folder.path).constData(),
+                                                O_PATH | O_DIRECTORY | O_CLOEXEC);
+        for (const qsizetype at : onDisk[index]) {
+            Row &row = rows[size_t(at)];
+            if (listing) {
+                if (listing->contains(row.targetName.toUtf8()))
+                    row.result = NameCheck::TakenInFolder;
+            } else if (takenAt(descriptor, folder.path, row)) {
+                row.result = NameCheck::TakenInFolder;
+            }
+        }
+        if (descriptor >= 0)
+            ::close(descriptor);
     }
 
     // A name waited for is free only if its holder really moves: follow each chain to its
@@ -139,7 +203,6 @@ qsizetype TargetNameCheck::check(std::vector<Row> &rows)
     };
     std::vector<Fate> fate(rows.size(), Fate::Unknown);
     std::vector<qsizetype> chain;
-    qsizetype free = 0;
     for (qsizetype start = 0; start < qsizetype(rows.size()); ++start) {
         chain.clear();
         qsizetype at = start;
@@ -164,7 +227,17 @@ qsizetype TargetNameCheck::check(std::vector<Row> &rows)
                 rows[size_t(link)].result = NameCheck::TakenInFolder;
         }
     }
-    for (const Row &row : rows)
+
+    qsizetype free = 0;
+    for (size_t at = 0; at < rows.size(); ++at) {
+        Row &row = rows[at];
+        if (row.result != NameCheck::Free && row.result != NameCheck::Unchanged)
+            continue;
         free += row.result == NameCheck::Free;
+        const QString &folder = folders[size_t(places[at].folder)].path;
+        row.targetPath = folder.endsWith(QLatin1Char('/'))
+                             ? folder + row.targetName
+                             : folder + QLatin1Char('/') + row.targetName;
+    }
     return free;
 }

@@ -12,8 +12,10 @@
 // file that moves away itself is free: chains and rings of names are carried out in an
 // order that lets them succeed.
 //
-// It reads the disk (one lstat for each name not held by the batch) and nothing else, and
-// keeps no state, so it may run on a worker thread.
+// It reads the disk and changes nothing there: a name not held by the batch is looked up in
+// its folder, or, where the folder holds not many more entries than there are names to look
+// up, the folder is read once (ten thousand look-ups cost some forty milliseconds, reading
+// a folder of ten thousand names three). It keeps no state, so it may run on a worker thread.
 class TargetNameCheck
 {
 public:

@@ -114,6 +114,33 @@ private Q_SLOTS:
         QCOMPARE(free, checks.count(NameCheck::Free));
     }
 
+    // A batch large against its folder has the folder read once instead of each name looked
+    // up: it finds the same names taken, links to nowhere among them.
+    void aLargeBatchFindsTakenNamesByReadingTheFolder()
+    {
+        TestDir dir;
+        RenameFileDetails details;
+        QStringList keys;
+        for (int i = 0; i < 40; ++i) {
+            const QString key = u"f%1.txt"_s.arg(i, 2, 10, QLatin1Char('0'));
+            const QString path = dir.createFile(key, key.toUtf8());
+            details.insert(key, RenameRecord{QUrl::fromLocalFile(path),
+                                             u"g%1"_s.arg(i, 2, 10, QLatin1Char('0')),
+                                             {},
+                                             {}});
+            keys.append(key);
+        }
+        dir.createFile(u"g07.txt"_s, "present");
+        dir.createDir(u"g23.txt"_s);
+        QVERIFY(QFile::link(dir.filePath(u"nowhere"_s), dir.filePath(u"g30.txt"_s)));
+        QCOMPARE(BRRenameFormat::checkNames(keys, details), 37);
+        QStringList taken;
+        for (const QString &key : std::as_const(keys))
+            if (details.value(key).check == NameCheck::TakenInFolder)
+                taken.append(key);
+        QCOMPARE(taken, (QStringList{u"f07.txt"_s, u"f23.txt"_s, u"f30.txt"_s}));
+    }
+
     // The check's word is the rename's: a row found free is renamed, the others not.
     void whatTheCheckSaysIsWhatTheRenameDoes()
     {
