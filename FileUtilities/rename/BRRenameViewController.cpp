@@ -433,6 +433,8 @@ void BRRenameViewController::showPopOver(int row)
     m_popover = new RowAnchoredPopover(preview, this);
     m_popover->setAccessibleName(QFileInfo(path).fileName());
     preview->setCurrentName(QFileInfo(path).fileName());
+    // Before it is placed: the reason's lines add to its height.
+    preview->setProblem(RenameTableModel::markText(*record));
     // Only a row on screen has somewhere to point at; the popover is not shown otherwise.
     const QRect anchor = m_renameTableView->popoverAnchorForRow(row);
     if (!anchor.isEmpty())
@@ -448,7 +450,6 @@ void BRRenameViewController::showPopOver(int row)
         });
     if (record->destinationURL && !record->destinationURL->isEmpty())
         preview->setEditableName(*record->destinationURL, RenameTableModel::suffixOf(*record));
-    preview->setProblem(RenameTableModel::markText(*record));
 }
 
 void BRRenameViewController::refreshPopoverProblem()
