@@ -204,15 +204,32 @@ QString BRRenameFormat::baseName(const QUrl &sourceURL)
 
 QString BRRenameFormat::pathExtension(const QUrl &sourceURL)
 {
-    const QString name = splitPath(localPath(sourceURL)).name;
-    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot < 0 ? QString() : name.mid(dot + 1);
+    return extensionOf(localPath(sourceURL)).toString();
 }
 
 QString BRRenameFormat::targetFileName(const QUrl &sourceURL, const QString &newName)
 {
-    const QString extension = pathExtension(sourceURL);
-    return extension.isEmpty() ? newName : newName + QLatin1Char('.') + extension;
+    return targetFileName(localPath(sourceURL), newName);
+}
+
+QString BRRenameFormat::targetFileName(const QString &sourcePath, const QString &newName)
+{
+    const QStringView extension = extensionOf(sourcePath);
+    if (extension.isEmpty())
+        return newName;
+    QString name;
+    name.reserve(newName.size() + 1 + extension.size());
+    name.append(newName).append(QLatin1Char('.')).append(extension);
+    return name;
+}
+
+QStringView BRRenameFormat::extensionOf(QStringView path)
+{
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+    const QStringView name = path.mid(path.lastIndexOf(u'/') + 1);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot < 0 ? QStringView() : name.mid(dot + 1);
 }
 
 ExecutionReport BRRenameFormat::renameFiles(const QStringList &keys, RenameFileDetails &details,
@@ -260,12 +277,12 @@ qsizetype BRRenameFormat::checkNames(const QStringList &keys, RenameFileDetails 
         if (record == details.end())
             continue;
         const QString newName = record->destinationURL.value_or(QString());
-        rows.push_back(
-            {localPath(record->sourceURL),
-             newName.isEmpty() ? QString() : targetFileName(record->sourceURL, newName)});
+        QString path = localPath(record->sourceURL);
+        QString target = newName.isEmpty() ? QString() : targetFileName(path, newName);
+        rows.push_back({std::move(path), std::move(target)});
         records.push_back(&*record);
     }
-    const qsizetype free = TargetNameCheck::check(rows);
+    const qsizetype free = TargetNameCheck::check(rows, TargetNameCheck::Paths::Skipped);
     for (size_t at = 0; at < rows.size(); ++at)
         records[at]->check = rows[at].result;
     return free;

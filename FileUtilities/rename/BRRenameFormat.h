@@ -104,6 +104,7 @@ public:
     // The whole name the file at `sourceURL` takes from `newName`: the new name, then a dot
     // and its extension when it has one. notes.txt on photo.png gives notes.txt.png.
     static QString targetFileName(const QUrl &sourceURL, const QString &newName);
+    static QString targetFileName(const QString &sourcePath, const QString &newName);
 
     // Checks each listed row's whole new name against the other rows and its folder on disk
     // (TargetNameCheck) and writes the row's check; gives the number of rows that a rename
@@ -144,6 +145,9 @@ public:
     void saveBookmark(const QUrl &url, RenameBookmarks &bookmarks) const;
 
 private:
+    // The extension of a path's last component, trailing slashes aside.
+    static QStringView extensionOf(QStringView path);
+
     // One file's move, resolved before any file moves, and how it went.
     struct PlannedMove
     {

@@ -102,12 +102,13 @@ bool takenAt(int folder, const QString &folderPath, const TargetNameCheck::Row &
 
 } // namespace
 
-qsizetype TargetNameCheck::check(std::vector<Row> &rows)
+qsizetype TargetNameCheck::check(std::vector<Row> &rows, Paths paths)
 {
     constexpr qsizetype none = -1;
     std::vector<Folder> folders;
     QHash<QString, qsizetype> folderIndex;
     std::vector<Place> places(rows.size());
+    qsizetype lastFolder = -1;
     for (size_t at = 0; at < rows.size(); ++at) {
         Row &row = rows[at];
         row.sourcePath = withoutTrailingSlashes(row.sourcePath);
@@ -115,16 +116,21 @@ qsizetype TargetNameCheck::check(std::vector<Row> &rows)
         const qsizetype slash = row.sourcePath.lastIndexOf(QLatin1Char('/'));
         if (slash < 0)
             continue;
-        const QString folderPath =
-            slash == 0 ? QStringLiteral("/") : QString(row.sourcePath.left(slash));
-        auto known = folderIndex.constFind(folderPath);
-        if (known == folderIndex.cend()) {
-            known = folderIndex.insert(folderPath, qsizetype(folders.size()));
-            folders.push_back({folderPath, FileMover::nameMaxIn(folderPath)});
+        const QStringView folderPath =
+            slash == 0 ? QStringView(u"/") : QStringView(row.sourcePath).left(slash);
+        // Rows come folder by folder, mostly: the folder of the row before is tried first.
+        if (lastFolder < 0 || folders[size_t(lastFolder)].path != folderPath) {
+            auto known = folderIndex.constFind(folderPath.toString());
+            if (known == folderIndex.cend()) {
+                const QString path = folderPath.toString();
+                known = folderIndex.insert(path, qsizetype(folders.size()));
+                folders.push_back({path, FileMover::nameMaxIn(path)});
+            }
+            lastFolder = *known;
         }
-        places[at] = {*known, row.sourcePath.mid(slash + 1)};
+        places[at] = {lastFolder, row.sourcePath.mid(slash + 1)};
         // Every listed file holds its name, whether it moves or not.
-        folders[size_t(*known)].holders.insert(places[at].name, qsizetype(at));
+        folders[size_t(lastFolder)].holders.insert(places[at].name, qsizetype(at));
     }
 
     // First what each row says alone: no name, a name that cannot be one, the name it has;
@@ -231,9 +237,10 @@ qsizetype TargetNameCheck::check(std::vector<Row> &rows)
     qsizetype free = 0;
     for (size_t at = 0; at < rows.size(); ++at) {
         Row &row = rows[at];
-        if (row.result != NameCheck::Free && row.result != NameCheck::Unchanged)
-            continue;
         free += row.result == NameCheck::Free;
+        if (paths == Paths::Skipped ||
+            (row.result != NameCheck::Free && row.result != NameCheck::Unchanged))
+            continue;
         const QString &folder = folders[size_t(places[at].folder)].path;
         row.targetPath = folder.endsWith(QLatin1Char('/'))
                              ? folder + row.targetName

@@ -28,6 +28,12 @@ public:
         NameCheck result = NameCheck::Unchecked;
     };
 
-    // Fills in every row's result and target path; gives the number of Free rows.
-    static qsizetype check(std::vector<Row> &rows);
+    enum class Paths
+    {
+        Made,    // the target path of each Free or Unchanged row is filled in, for a move
+        Skipped, // only the results are wanted
+    };
+
+    // Fills in every row's result (and target path); gives the number of Free rows.
+    static qsizetype check(std::vector<Row> &rows, Paths paths = Paths::Made);
 };
