@@ -3,7 +3,6 @@
 #include "PlatformLog.h"
 
 #include <QFile>
-#include <QStringDecoder>
 
 #include <cerrno>
 #include <climits>
@@ -85,22 +84,47 @@ FileMover::Result FileMover::moveByLink(const QString &sourcePath, const QString
 
 bool FileMover::isValidFileName(const QString &name, const QString &folderPath)
 {
-    if (name.isEmpty() || name == QLatin1String(".") || name == QLatin1String(".."))
-        return false;
-    if (name.contains(QLatin1Char('/')) || name.contains(QChar(u'\0')))
-        return false;
-    const QByteArray native = QFile::encodeName(name);
-    // An unpaired surrogate has no encoding: the file would get another name than shown.
-    // A leading U+FEFF belongs to the name, so the decoder must keep it.
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-    if (QString(decoder.decode(native)) != name)
-        return false;
-    long limit = NAME_MAX;
-    if (!folderPath.isEmpty()) {
-        const long folderLimit =
-            ::pathconf(QFile::encodeName(folderPath).constData(), _PC_NAME_MAX);
-        if (folderLimit > 0)
-            limit = folderLimit;
+    return problemWithName(name, nameMaxIn(folderPath)) == NameProblem::None;
+}
+
+FileMover::NameProblem FileMover::problemWithName(const QString &name, long nameMax)
+{
+    if (name.isEmpty())
+        return NameProblem::Empty;
+    if (name == QLatin1String(".") || name == QLatin1String(".."))
+        return NameProblem::DotOrDotDot;
+    if (name.contains(QLatin1Char('/')))
+        return NameProblem::Slash;
+    if (name.contains(QChar(u'\0')))
+        return NameProblem::Nul;
+    // The length in UTF-8, the file-name encoding, counted without making the bytes: a rule
+    // run checks ten thousand names. An unpaired surrogate has no encoding at all: the file
+    // would get another name than shown.
+    qsizetype bytes = 0;
+    for (qsizetype at = 0; at < name.size(); ++at) {
+        const char16_t unit = name.at(at).unicode();
+        if (unit < 0x80) {
+            bytes += 1;
+        } else if (unit < 0x800) {
+            bytes += 2;
+        } else if (QChar::isHighSurrogate(unit)) {
+            if (at + 1 == name.size() || !QChar::isLowSurrogate(name.at(at + 1).unicode()))
+                return NameProblem::NotEncodable;
+            bytes += 4;
+            ++at;
+        } else if (QChar::isLowSurrogate(unit)) {
+            return NameProblem::NotEncodable;
+        } else {
+            bytes += 3;
+        }
     }
-    return native.size() <= limit;
+    return bytes <= nameMax ? NameProblem::None : NameProblem::TooLong;
+}
+
+long FileMover::nameMaxIn(const QString &folderPath)
+{
+    if (folderPath.isEmpty())
+        return NAME_MAX;
+    const long limit = ::pathconf(QFile::encodeName(folderPath).constData(), _PC_NAME_MAX);
+    return limit > 0 ? limit : NAME_MAX;
 }

@@ -27,10 +27,27 @@ public:
     // that it can be exercised on file systems that have the one-step move.
     static Result moveByLink(const QString &sourcePath, const QString &targetPath);
 
+    // Why a text cannot be one component of a path, if it cannot.
+    enum class NameProblem
+    {
+        None,
+        Empty,
+        DotOrDotDot,  // "." and ".." name the folder itself and its parent
+        Slash,        // it would point into another folder
+        Nul,          // the system's calls end a name at NUL
+        NotEncodable, // no exact bytes in the file-name encoding (UTF-8): a lone surrogate
+        TooLong,      // more bytes than the folder's file system takes
+    };
+
     // Whether `name` can be one component of a path in `folderPath`: not empty, not "." or
     // "..", no '/' or NUL, exactly representable in the file-name encoding, and no longer
     // in bytes than the folder's file system allows (NAME_MAX when it cannot be asked).
     static bool isValidFileName(const QString &name, const QString &folderPath = QString());
+    // The same check with the longest name in bytes given, for many names in one folder.
+    static NameProblem problemWithName(const QString &name, long nameMax);
+    // The longest name in bytes the folder's file system takes; NAME_MAX when it cannot be
+    // asked (or for "").
+    static long nameMaxIn(const QString &folderPath);
 
 private:
     static Result moveWithoutReplacing(const QString &sourcePath, const QString &targetPath);

@@ -88,6 +88,8 @@ QColor color(Color role)
         return rgba(74, 74, 74);
     case Color::InactiveButtonText:
         return rgba(255, 255, 255, 0.5);
+    case Color::ProblemMark:
+        return rgba(200, 35, 51);
 
     case Color::Accent:
         return rgba(31, 201, 126);

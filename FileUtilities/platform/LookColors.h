@@ -46,6 +46,7 @@ enum class Color
     Placeholder,        // the hint in an empty rule field
     PlainButtonText,    // the title of a plain button
     InactiveButtonText, // the title of a button that has nothing to do yet
+    ProblemMark,        // a row that will not or could not be renamed: its mark and word
 
     // Buttons
     Accent,               // the main action: start a scan, rename, got it; the drop outline

@@ -2,6 +2,7 @@
 
 #include "BRRenameRoundedTextField.h"
 #include "BRRenameViewDelegate.h"
+#include "ExtensionSuffixLabel.h"
 #include "Look.h"
 #include "RenameRowStyle.h"
 
@@ -43,7 +44,11 @@ QPixmap framedImage(const QImage &image, qreal ratio)
 BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *parent)
     : QWidget(parent), m_renameFileImageView(new QLabel(this)),
       m_renameFileCurrentLabel(new QLabel(this)),
-      m_renameFileNewNameTextField(new BRRenameRoundedTextField(this))
+      m_renameFileNewNameTextField(new BRRenameRoundedTextField(this)),
+      // The rounded field's border and padding: 1 and 3 by 6 pixels.
+      m_extensionSuffix(
+          new ExtensionSuffixLabel(m_renameFileNewNameTextField, QMargins(7, 4, 7, 4))),
+      m_problemLabel(Look::label(this, 12, QFont::Normal, Look::Color::ProblemMark, QString()))
 {
     setObjectName(QStringLiteral("filePreviewPopOver"));
 
@@ -71,6 +76,7 @@ BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *
     fieldPalette.setColor(QPalette::Text, RenameRowStyle::sourceNameColor());
     fieldPalette.setColor(QPalette::PlaceholderText, RenameRowStyle::placeholderColor());
     m_renameFileNewNameTextField->setPalette(fieldPalette);
+    m_extensionSuffix->setColor(RenameRowStyle::extensionColor());
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 16);
@@ -86,6 +92,12 @@ BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *
                                   QStringLiteral("New name")));
     layout->addSpacing(4);
     layout->addWidget(m_renameFileNewNameTextField);
+    m_problemLabel->setObjectName(QStringLiteral("problemLabel"));
+    m_problemLabel->setWordWrap(true);
+    m_problemLabel->setFixedWidth(imageSide);
+    m_problemLabel->hide();
+    layout->addSpacing(6);
+    layout->addWidget(m_problemLabel);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
     connect(m_renameFileNewNameTextField, &QLineEdit::returnPressed, this,
@@ -105,12 +117,20 @@ void BRFilePreviewPopoverViewController::setImage(const QImage &image)
     m_renameFileImageView->setPixmap(framedImage(image, devicePixelRatioF()));
 }
 
-void BRFilePreviewPopoverViewController::setEditableName(const QString &name)
+void BRFilePreviewPopoverViewController::setEditableName(const QString &name, const QString &suffix)
 {
+    m_extensionSuffix->setSuffix(suffix);
     m_renameFileNewNameTextField->setReadOnly(false);
     m_renameFileNewNameTextField->setText(name);
     m_renameFileNewNameTextField->setFocus();
     m_renameFileNewNameTextField->selectAll();
+}
+
+void BRFilePreviewPopoverViewController::setProblem(const QString &why)
+{
+    m_problemLabel->setText(why);
+    m_problemLabel->setAccessibleName(why);
+    m_problemLabel->setVisible(!why.isEmpty());
 }
 
 void BRFilePreviewPopoverViewController::newNameAction()

@@ -6,6 +6,7 @@
 #include <optional>
 
 class BRRenameViewDelegate;
+class ExtensionSuffixLabel;
 class QLabel;
 class QLineEdit;
 
@@ -30,11 +31,16 @@ public:
     void setCurrentName(const QString &name);
     void setImage(const QImage &image);
     // The only way the name becomes editable: a row without a name has nothing to edit.
-    void setEditableName(const QString &name);
+    // `suffix` (".jpg") follows the name in a lighter tone: the whole name the file will have.
+    void setEditableName(const QString &name, const QString &suffix = QString());
+    // Why the file will not be renamed, or could not be, in red under its new name; "" hides it.
+    void setProblem(const QString &why);
 
     QLabel *renameFileImageView() const { return m_renameFileImageView; }
     QLabel *renameFileCurrentLabel() const { return m_renameFileCurrentLabel; }
     QLineEdit *renameFileNewNameTextField() const { return m_renameFileNewNameTextField; }
+    ExtensionSuffixLabel *extensionSuffix() const { return m_extensionSuffix; }
+    QLabel *problemLabel() const { return m_problemLabel; }
 
 public Q_SLOTS:
     void newNameAction();
@@ -43,6 +49,8 @@ private:
     QLabel *m_renameFileImageView;
     QLabel *m_renameFileCurrentLabel;
     QLineEdit *m_renameFileNewNameTextField;
+    ExtensionSuffixLabel *m_extensionSuffix;
+    QLabel *m_problemLabel;
     BRRenameViewDelegate *m_delegate = nullptr;
     std::optional<int> m_index;
 };

@@ -2,10 +2,13 @@
 
 #include "BRRenameCompleteViewDoneButton.h"
 #include "Look.h"
+#include "LookStyleSheets.h"
 #include "RenameNotificationCenter.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -37,7 +40,12 @@ QPixmap badge(qreal ratio)
 
 BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWidget *parent)
     : BRImageBackgroundView(QStringLiteral("bg"), Tone::Light, parent), m_center(center),
-      m_completeView(new QWidget(this)), m_renameStatusLabel(new QLabel(m_completeView)),
+      m_completeView(new QWidget(this)),
+      m_headline(Look::label(m_completeView, 24, QFont::Medium, Look::Color::PrimaryText,
+                             QStringLiteral("Renaming done"))),
+      m_renameStatusLabel(new QLabel(m_completeView)),
+      m_showFailedButton(new QPushButton(QStringLiteral("Show failed files"), m_completeView)),
+      m_undoButton(new QPushButton(QStringLiteral("Undo Rename"), m_completeView)),
       m_doneButton(new BRRenameCompleteViewDoneButton(m_completeView))
 {
     setObjectName(QStringLiteral("renameCompleteStatusView"));
@@ -49,10 +57,8 @@ BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWi
     // The tick says the run went through; a reader hears the same.
     badgeView->setAccessibleName(QStringLiteral("Completed"));
 
-    QLabel *headline = Look::label(m_completeView, 24, QFont::Medium, Look::Color::PrimaryText,
-                                   QStringLiteral("Renaming done"));
-    headline->setObjectName(QStringLiteral("headlineLabel"));
-    headline->setAlignment(Qt::AlignCenter);
+    m_headline->setObjectName(QStringLiteral("headlineLabel"));
+    m_headline->setAlignment(Qt::AlignCenter);
 
     m_renameStatusLabel->setObjectName(QStringLiteral("renameStatusLabel"));
     m_renameStatusLabel->setAlignment(Qt::AlignCenter);
@@ -66,16 +72,39 @@ BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWi
     m_doneButton->setCursor(Qt::PointingHandCursor);
     m_doneButton->setDefault(true);
 
+    for (QPushButton *button : {m_showFailedButton, m_undoButton}) {
+        button->setStyleSheet(Look::StyleSheet::plainButton());
+        button->setFont(Look::font(15));
+        button->setCursor(Qt::PointingHandCursor);
+    }
+    m_showFailedButton->setObjectName(QStringLiteral("showFailedButton"));
+    m_showFailedButton->hide();
+    m_undoButton->setObjectName(QStringLiteral("undoButton"));
+    m_undoButton->setMinimumWidth(140);
+    m_undoButton->setToolTip(QStringLiteral("Give every renamed file its old name again"));
+    m_undoButton->hide();
+
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(12);
+    buttons->addWidget(m_undoButton);
+    buttons->addWidget(m_doneButton);
+
     auto *content = new QVBoxLayout(m_completeView);
     content->setContentsMargins(0, 0, 0, 0);
     content->setSpacing(0);
     content->addWidget(badgeView, 0, Qt::AlignHCenter);
     content->addSpacing(20);
-    content->addWidget(headline, 0, Qt::AlignHCenter);
+    content->addWidget(m_headline, 0, Qt::AlignHCenter);
     content->addSpacing(6);
     content->addWidget(m_renameStatusLabel, 0, Qt::AlignHCenter);
-    content->addSpacing(28);
-    content->addWidget(m_doneButton, 0, Qt::AlignHCenter);
+    content->addSpacing(14);
+    content->addWidget(m_showFailedButton, 0, Qt::AlignHCenter);
+    content->addSpacing(14);
+    content->addLayout(buttons);
+    content->setAlignment(buttons, Qt::AlignHCenter);
+    // Done comes first to the keyboard, as the view's answer; Tab then reaches the others.
+    setTabOrder(m_doneButton, m_undoButton);
+    setTabOrder(m_undoButton, m_showFailedButton);
 
     auto *layout = new QVBoxLayout(this);
     layout->addStretch(1);
@@ -83,22 +112,72 @@ BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWi
     layout->addStretch(1);
 
     connect(m_doneButton, &QPushButton::clicked, this, &BRRenameCompleteView::doneAction);
+    connect(m_undoButton, &QPushButton::clicked, this, &BRRenameCompleteView::undoAction);
+    connect(m_showFailedButton, &QPushButton::clicked, this,
+            &BRRenameCompleteView::showFailedAction);
     if (m_center)
         connect(m_center, &RenameNotificationCenter::renameComplete, this,
                 &BRRenameCompleteView::setRenameCompleteView);
+}
+
+void BRRenameCompleteView::setFailedCount(int failed)
+{
+    m_failedCount = failed;
+}
+
+void BRRenameCompleteView::setUndoAvailable(bool available)
+{
+    m_undoButton->setVisible(available);
+    m_undoButton->setEnabled(available);
 }
 
 void BRRenameCompleteView::setRenameCompleteView(const QStringList &renamedFiles)
 {
     if (renamedFiles.isEmpty())
         return;
-    // Only the count: the names are in the folder for the user to see.
-    m_renameStatusLabel->setText(QString::number(renamedFiles.size()) +
-                                 QStringLiteral(" files renamed"));
+    m_headline->setText(QStringLiteral("Renaming done"));
+    // Only the counts: the names are in the folder for the user to see, and the failed
+    // rows in the list that Show failed files brings back.
+    QString status = QString::number(renamedFiles.size()) + QStringLiteral(" files renamed");
+    if (m_failedCount > 0)
+        status += QStringLiteral(", %1 failed").arg(m_failedCount);
+    m_renameStatusLabel->setText(status);
+    m_showFailedButton->setVisible(m_failedCount > 0);
+}
+
+void BRRenameCompleteView::showUndone(qsizetype restored, qsizetype notRestored)
+{
+    m_headline->setText(QStringLiteral("Rename undone"));
+    QString status =
+        QString::number(restored) + QStringLiteral(" files have their old names again");
+    if (notRestored > 0)
+        status += QStringLiteral(", %1 could not go back").arg(notRestored);
+    m_renameStatusLabel->setText(status);
+    // The failed rows belonged to a batch that is undone now.
+    m_showFailedButton->hide();
+    if (m_undoButton->hasFocus() || m_showFailedButton->hasFocus())
+        m_doneButton->setFocus(Qt::OtherFocusReason);
 }
 
 void BRRenameCompleteView::doneAction()
 {
     if (m_center)
         Q_EMIT m_center->renameDone();
+}
+
+void BRRenameCompleteView::undoAction()
+{
+    // One press: the button comes back if some files could not go back. The keyboard
+    // waits on Done meanwhile, not on a button that cannot be pressed.
+    if (m_undoButton->hasFocus())
+        m_doneButton->setFocus(Qt::OtherFocusReason);
+    m_undoButton->setEnabled(false);
+    if (m_center)
+        Q_EMIT m_center->undoRename();
+}
+
+void BRRenameCompleteView::showFailedAction()
+{
+    if (m_center)
+        Q_EMIT m_center->showFailedFiles();
 }

@@ -2,11 +2,12 @@
 
 #include "FileMover.h"
 #include "RenameLog.h"
+#include "TargetNameCheck.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QSet>
 
+#include <cerrno>
 #include <limits>
 
 #include <sys/stat.h>
@@ -52,6 +53,39 @@ SplitPath splitPath(QString path)
     if (slash < 0)
         return {QString(), path};
     return {slash == 0 ? QStringLiteral("/") : path.left(slash), path.mid(slash + 1)};
+}
+
+// Why a row was not attempted, for the log.
+const char *whyNot(NameCheck check)
+{
+    switch (check) {
+    case NameCheck::SameAsAnotherRow:
+        return "another row of the batch takes that name";
+    case NameCheck::TakenInFolder:
+        return "a file that stays has that name";
+    case NameCheck::DotOrDotDot:
+        return "it names a folder";
+    case NameCheck::Slash:
+        return "it holds a slash";
+    case NameCheck::Nul:
+        return "it holds a NUL";
+    case NameCheck::NotEncodable:
+        return "it has no exact bytes in UTF-8";
+    case NameCheck::TooLong:
+        return "it is longer than the file system takes";
+    case NameCheck::Unchecked:
+    case NameCheck::NoName:
+    case NameCheck::Free:
+    case NameCheck::Unchanged:
+        break;
+    }
+    return "";
+}
+
+QByteArray bookmarkDataOf(const QString &path)
+{
+    const auto bookmark = ItemBookmark::forPath(path);
+    return bookmark ? bookmark->toData() : QByteArray();
 }
 
 } // namespace
@@ -119,7 +153,7 @@ std::optional<RuleRunReport> BRRenameFormat::changeFullFileNames(
             counter = *start;
     }
     return nameListedRows(details, keys, [&](RenameRecord &record) {
-        if (record.nameSource != NameSource::HandEdit)
+        if (record.nameSource == NameSource::Rule)
             record.destinationURL = joined(*newName, QString::number(counter), where);
         ++counter; // a hand-named row keeps its number, so the others keep theirs
     });
@@ -133,7 +167,7 @@ std::optional<RuleRunReport> BRRenameFormat::addTextToFileNames(const QString &t
     if (text.isEmpty())
         return std::nullopt;
     return nameListedRows(details, keys, [&](RenameRecord &record) {
-        if (record.nameSource != NameSource::HandEdit)
+        if (record.nameSource == NameSource::Rule)
             record.destinationURL = addedTextName(record.sourceURL, text, where);
     });
 }
@@ -168,77 +202,133 @@ QString BRRenameFormat::baseName(const QUrl &sourceURL)
     return last.section(QLatin1Char('.'), 0, 0);
 }
 
+QString BRRenameFormat::pathExtension(const QUrl &sourceURL)
+{
+    return extensionOf(localPath(sourceURL)).toString();
+}
+
+QString BRRenameFormat::targetFileName(const QUrl &sourceURL, const QString &newName)
+{
+    return targetFileName(localPath(sourceURL), newName);
+}
+
+QString BRRenameFormat::targetFileName(const QString &sourcePath, const QString &newName)
+{
+    const QStringView extension = extensionOf(sourcePath);
+    if (extension.isEmpty())
+        return newName;
+    QString name;
+    name.reserve(newName.size() + 1 + extension.size());
+    name.append(newName).append(QLatin1Char('.')).append(extension);
+    return name;
+}
+
+QStringView BRRenameFormat::extensionOf(QStringView path)
+{
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+    const QStringView name = path.mid(path.lastIndexOf(u'/') + 1);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot < 0 ? QStringView() : name.mid(dot + 1);
+}
+
 ExecutionReport BRRenameFormat::renameFiles(const QStringList &keys, RenameFileDetails &details,
                                             RenameBookmarks &bookmarks) const
 {
     ExecutionReport report;
     ItemBookmark::SearchCache searches;
-    // First where every file is and where it goes; then the moves, in an order that lets a
-    // file take a name another file of the batch is leaving.
-    QList<PlannedMove> moves;
+    // First where every file is and what it is to be named; then the names are checked as a
+    // batch, and only then do files move.
+    QList<LocatedRow> located;
     for (const QString &key : keys) {
-        const auto record = details.constFind(key);
-        if (record == details.constEnd() || !record->destinationURL ||
-            record->destinationURL->isEmpty())
+        const auto record = details.find(key);
+        if (record == details.end() || !record->destinationURL || record->destinationURL->isEmpty())
             continue;
         const QString newName = *record->destinationURL;
-        const QUrl sourceURL = record->sourceURL;
-        const QString path = localPath(sourceURL);
+        const QString path = localPath(record->sourceURL);
         if (path.isEmpty()) {
             report.missingKeys.append(key);
             continue;
         }
-        std::optional<QUrl> at = sourceURL;
         if (!existsAt(path)) {
-            at = restoreBookmark(path, bookmarks, &searches);
+            const std::optional<QUrl> at = restoreBookmark(path, bookmarks, &searches);
             if (!at) {
                 qCWarning(renameLog).noquote()
                     << "not renamed:" << path << "is gone and was not found near where it was";
                 report.missingKeys.append(key);
                 continue;
             }
-            details[key].sourceURL = *at;
+            record->sourceURL = *at;
         }
-        if (std::optional<PlannedMove> move = planMove(*at, newName, details, key))
-            moves.append(std::move(*move));
+        located.append({key, record->sourceURL, newName});
     }
-    carryOut(moves, details);
+    report.renamed = checkAndMove(located, details);
     return report;
 }
 
-std::optional<BRRenameFormat::PlannedMove> BRRenameFormat::planMove(const QUrl &sourceURL,
-                                                                    const QString &newName,
-                                                                    RenameFileDetails &details,
-                                                                    const QString &key) const
+qsizetype BRRenameFormat::checkNames(const QStringList &keys, RenameFileDetails &details)
 {
-    const auto record = details.find(key);
-    if (record == details.end())
-        return std::nullopt;
-    const QString sourcePath = localPath(sourceURL);
-    const SplitPath source = splitPath(sourcePath);
-    if (source.folder.isEmpty() || source.name.isEmpty())
-        return std::nullopt;
-    const QString extension = QFileInfo(source.name).suffix();
-    const QString targetName =
-        extension.isEmpty() ? newName : newName + QLatin1Char('.') + extension;
-    // A name that would point into another folder, or that the file system cannot hold,
-    // is refused here rather than handed to the path API.
-    if (!FileMover::isValidFileName(targetName, source.folder)) {
-        qCWarning(renameLog).noquote()
-            << "not renamed:" << sourcePath << "cannot be named" << targetName << "in its folder";
-        record->outcome = RenameOutcome::Failed;
-        return std::nullopt;
+    std::vector<TargetNameCheck::Row> rows;
+    std::vector<RenameRecord *> records;
+    rows.reserve(size_t(keys.size()));
+    records.reserve(size_t(keys.size()));
+    for (const QString &key : keys) {
+        const auto record = details.find(key);
+        if (record == details.end())
+            continue;
+        const QString newName = record->destinationURL.value_or(QString());
+        QString path = localPath(record->sourceURL);
+        QString target = newName.isEmpty() ? QString() : targetFileName(path, newName);
+        rows.push_back({std::move(path), std::move(target)});
+        records.push_back(&*record);
     }
-    const QString targetPath = source.folder == QLatin1String("/")
-                                   ? source.folder + targetName
-                                   : source.folder + QLatin1Char('/') + targetName;
-    // A file that has its new name already is left as it is: nothing to do, nothing failed.
-    if (targetPath == sourcePath)
-        return std::nullopt;
-    return PlannedMove{key, sourcePath, targetPath, QString()};
+    const qsizetype free = TargetNameCheck::check(rows, TargetNameCheck::Paths::Skipped);
+    for (size_t at = 0; at < rows.size(); ++at)
+        records[at]->check = rows[at].result;
+    return free;
 }
 
-void BRRenameFormat::carryOut(QList<PlannedMove> &moves, RenameFileDetails &details) const
+QList<RenamedFile> BRRenameFormat::checkAndMove(const QList<LocatedRow> &located,
+                                                RenameFileDetails &details) const
+{
+    std::vector<TargetNameCheck::Row> rows;
+    rows.reserve(size_t(located.size()));
+    for (const LocatedRow &row : located)
+        rows.push_back({localPath(row.at), targetFileName(row.at, row.newName)});
+    TargetNameCheck::check(rows);
+
+    QList<PlannedMove> moves;
+    for (qsizetype at = 0; at < located.size(); ++at) {
+        const TargetNameCheck::Row &row = rows[size_t(at)];
+        RenameRecord &record = details[located.at(at).key];
+        // Every row gets this run's word: an outcome of an earlier run would mislead.
+        record.check = row.result;
+        record.outcome = RenameOutcome::NotTried;
+        record.failureError = 0;
+        if (row.result == NameCheck::Free)
+            moves.append(PlannedMove{located.at(at).key, row.sourcePath, row.targetPath});
+        else if (isConflict(row.result))
+            qCWarning(renameLog).noquote() << "not renamed:" << row.sourcePath << "cannot be named"
+                                           << row.targetName << "there:" << whyNot(row.result);
+    }
+    carryOut(moves);
+
+    QList<RenamedFile> renamed;
+    for (const PlannedMove &move : std::as_const(moves)) {
+        RenameRecord &record = details[move.key];
+        record.outcome = move.outcome;
+        record.failureError = move.error;
+        // A file left under a passing name: its row says where it is now.
+        if (move.outcome == RenameOutcome::Failed && !move.parkedFrom.isEmpty())
+            record.sourceURL = QUrl::fromLocalFile(move.source);
+        if (move.outcome == RenameOutcome::Succeeded)
+            renamed.append(RenamedFile{move.key, move.originalSource(), move.target,
+                                       bookmarkDataOf(move.target)});
+    }
+    return renamed;
+}
+
+void BRRenameFormat::carryOut(QList<PlannedMove> &moves) const
 {
     // Which pending move still holds each path as its source.
     QHash<QString, qsizetype> holder;
@@ -252,17 +342,20 @@ void BRRenameFormat::carryOut(QList<PlannedMove> &moves, RenameFileDetails &deta
         if (!moved)
             qCWarning(renameLog).noquote()
                 << "not renamed:" << move.source << "to" << move.target << ":" << moved.errorText;
-        details[move.key].outcome = moved ? RenameOutcome::Succeeded : RenameOutcome::Failed;
+        move.outcome = moved ? RenameOutcome::Succeeded : RenameOutcome::Failed;
+        move.error = moved.error;
         holder.remove(move.source);
         done[at] = true;
         if (moved || move.parkedFrom.isEmpty())
             return;
         // A file parked under a passing name to break a cycle goes back where it was; if it
-        // cannot, its row tells where it is now.
-        if (FileMover::move(move.source, move.parkedFrom))
+        // cannot, the caller tells where it is now.
+        if (FileMover::move(move.source, move.parkedFrom)) {
+            move.source = move.parkedFrom;
+            move.parkedFrom.clear();
             return;
+        }
         qCWarning(renameLog).noquote() << "left" << move.parkedFrom << "as" << move.source;
-        details[move.key].sourceURL = QUrl::fromLocalFile(move.source);
     };
 
     for (qsizetype start = 0; start < moves.size(); ++start) {
@@ -292,6 +385,67 @@ void BRRenameFormat::carryOut(QList<PlannedMove> &moves, RenameFileDetails &deta
     }
 }
 
+UndoReport BRRenameFormat::undoRenames(const QList<RenamedFile> &files) const
+{
+    UndoReport report;
+    ItemBookmark::SearchCache searches;
+    std::vector<TargetNameCheck::Row> rows;
+    QList<qsizetype> fileOfRow;
+    for (qsizetype at = 0; at < files.size(); ++at) {
+        const RenamedFile &file = files.at(at);
+        // Where the rename put it, while that is still the same file; else wherever its
+        // bookmark finds it.
+        std::optional<QString> present;
+        if (const auto bookmark = ItemBookmark::fromData(file.bookmark)) {
+            if (const auto resolved = bookmark->resolve(&searches))
+                present = resolved->path;
+        } else if (existsAt(file.toPath)) {
+            present = file.toPath;
+        }
+        if (!present) {
+            qCWarning(renameLog).noquote() << "not undone:" << file.toPath << "was not found";
+            report.failures.append({file, QString(), NameCheck::Unchecked, ENOENT});
+            continue;
+        }
+        rows.push_back({*present, splitPath(file.fromPath).name});
+        fileOfRow.append(at);
+    }
+    TargetNameCheck::check(rows);
+
+    QList<PlannedMove> moves;
+    QList<qsizetype> fileOfMove;
+    for (size_t at = 0; at < rows.size(); ++at) {
+        const TargetNameCheck::Row &row = rows[at];
+        const RenamedFile &file = files.at(fileOfRow.at(qsizetype(at)));
+        if (row.result == NameCheck::Free) {
+            moves.append(PlannedMove{file.key, row.sourcePath, row.targetPath});
+            fileOfMove.append(fileOfRow.at(qsizetype(at)));
+        } else if (row.result == NameCheck::Unchanged) {
+            ++report.restored; // it has its old name already
+        } else {
+            qCWarning(renameLog).noquote() << "not undone:" << row.sourcePath << "cannot be named"
+                                           << row.targetName << "there:" << whyNot(row.result);
+            RenamedFile kept = file;
+            kept.toPath = row.sourcePath;
+            report.failures.append({kept, row.sourcePath, row.result, 0});
+        }
+    }
+    carryOut(moves);
+    for (qsizetype at = 0; at < moves.size(); ++at) {
+        const PlannedMove &move = moves.at(at);
+        if (move.outcome == RenameOutcome::Succeeded) {
+            ++report.restored;
+            continue;
+        }
+        RenamedFile file = files.at(fileOfMove.at(at));
+        // Kept where it is now, so that another try starts from there.
+        file.toPath = move.source;
+        file.bookmark = bookmarkDataOf(move.source);
+        report.failures.append({file, move.source, NameCheck::Free, move.error});
+    }
+    return report;
+}
+
 void BRRenameFormat::parkAside(PlannedMove &move, QHash<QString, qsizetype> &holder,
                                qsizetype index) const
 {
@@ -315,12 +469,9 @@ void BRRenameFormat::parkAside(PlannedMove &move, QHash<QString, qsizetype> &hol
 void BRRenameFormat::renameFile(const std::optional<QUrl> &sourceURL, const QString &newName,
                                 RenameFileDetails &details, const QString &key) const
 {
-    if (!sourceURL)
+    if (!sourceURL || localPath(*sourceURL).isEmpty() || !details.contains(key))
         return;
-    if (std::optional<PlannedMove> move = planMove(*sourceURL, newName, details, key)) {
-        QList<PlannedMove> moves{std::move(*move)};
-        carryOut(moves, details);
-    }
+    checkAndMove({LocatedRow{key, *sourceURL, newName}}, details);
 }
 
 std::optional<QUrl> BRRenameFormat::restoreBookmark(const QString &path,

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "ItemBookmark.h"
+#include "NameCheck.h"
 #include "NamePlacement.h"
 #include "RenameRecord.h"
+#include "RenamedFile.h"
 
 #include <QString>
 #include <QStringList>
@@ -19,10 +21,29 @@ struct RuleRunReport
 };
 
 // What a rename run met: the keys of rows whose file is neither at its path nor found
-// again by its bookmark.
+// again by its bookmark, and the files it renamed.
 struct ExecutionReport
 {
     QStringList missingKeys;
+    QList<RenamedFile> renamed = {};
+};
+
+// A file an undo could not give its old name again, and why: a conflict of names (check),
+// or the system's error number of the move (error), or it was not found (neither; the
+// present path is then "").
+struct UndoFailure
+{
+    RenamedFile file;
+    QString presentPath;
+    NameCheck check = {};
+    int error = {};
+};
+
+// What an undo did.
+struct UndoReport
+{
+    qsizetype restored = 0;
+    QList<UndoFailure> failures;
 };
 
 // The batch renamer's worker: computes rule names into the rows and moves the files.
@@ -77,26 +98,44 @@ public:
     // The last path component up to its first dot: "holiday" for holiday.2019.final.jpg,
     // "" for .profile.
     static QString baseName(const QUrl &sourceURL);
+    // What a file keeps through a rename: the text after the last dot of its name ("gz" for
+    // archive.tar.gz, "profile" for .profile), "" when there is none.
+    static QString pathExtension(const QUrl &sourceURL);
+    // The whole name the file at `sourceURL` takes from `newName`: the new name, then a dot
+    // and its extension when it has one. notes.txt on photo.png gives notes.txt.png.
+    static QString targetFileName(const QUrl &sourceURL, const QString &newName);
+    static QString targetFileName(const QString &sourcePath, const QString &newName);
+
+    // Checks each listed row's whole new name against the other rows and its folder on disk
+    // (TargetNameCheck) and writes the row's check; gives the number of rows that a rename
+    // would move. Reads the disk, changes nothing on it.
+    static qsizetype checkNames(const QStringList &keys, RenameFileDetails &details);
 
     // Moves the listed files to their new names, each in its own folder, and writes each
-    // row's State. Where a new name is held by another file of the batch that moves away
-    // itself, that file moves first (a chain), and a ring of such names goes through a
-    // passing name in the same folder (a cycle), so renumbering a numbered set works; no move
-    // ever replaces a file. A file that has its new name already is left as it is, neither
-    // renamed nor failed. A row without a record, or whose destinationURL is absent or "",
-    // is left alone. A file that is not at its path is looked for by its bookmark; when
-    // found, the row's sourceURL becomes its new place and the move happens there; when not
-    // (or when the row has no path), its key is reported and the row is left as it was.
+    // row's State. The names are checked as a batch first, where the files are now: a row
+    // in conflict (its check says why) and a file that has its new name already are not
+    // attempted, and their State is NotTried. Where a new name is held by another file of
+    // the batch that moves away itself, that file moves first (a chain), and a ring of such
+    // names goes through a passing name in the same folder (a cycle), so renumbering a
+    // numbered set works; no move ever replaces a file. A move that fails leaves the
+    // system's error number in the row. A row without a record, or whose destinationURL is
+    // absent or "", is left alone. A file that is not at its path is looked for by its
+    // bookmark; when found, the row's sourceURL becomes its new place and the move happens
+    // there; when not (or when the row has no path), its key is reported and the row is
+    // left as it was.
     ExecutionReport renameFiles(const QStringList &keys, RenameFileDetails &details,
                                 RenameBookmarks &bookmarks) const;
     // Moves one file to `newName` plus its own extension (the text after the last dot of
-    // its name, if any) in its folder, and sets the row's outcome.
-    // Never replaces anything: an existing target, or a target name that cannot be one file
-    // name in that folder ("", ".", "..", a '/' or NUL, too long), fails and nothing
-    // moves; a file that has the name already is left as it is. sourceURL is left as it was, also after a move. An absent URL, one without a
+    // its name, if any) in its folder, and sets the row's check and outcome, as a batch of
+    // one. sourceURL is left as it was, also after a move. An absent URL, one without a
     // path, or a key without a record does nothing.
     void renameFile(const std::optional<QUrl> &sourceURL, const QString &newName,
                     RenameFileDetails &details, const QString &key) const;
+
+    // Gives each file its old name again, in the folder where it is now: a file moved since
+    // is found by its bookmark. The names are checked and moved as a rename's are (chains and
+    // rings included, never replacing); a file that cannot go back is reported with why.
+    UndoReport undoRenames(const QList<RenamedFile> &files) const;
 
     // Where the file bookmarked under `path` is now; nothing without a bookmark or when the
     // file is gone. A found file's bookmark is stored anew under its present path.
@@ -106,21 +145,37 @@ public:
     void saveBookmark(const QUrl &url, RenameBookmarks &bookmarks) const;
 
 private:
-    // One file's move, resolved before any file moves.
+    // The extension of a path's last component, trailing slashes aside.
+    static QStringView extensionOf(QStringView path);
+
+    // One file's move, resolved before any file moves, and how it went.
     struct PlannedMove
     {
         QString key;
         QString source; // where the file is now
         QString target;
-        QString parkedFrom; // where it was before it stepped aside for a cycle, if it did
+        QString parkedFrom = {}; // where it was before it stepped aside for a cycle, if it did
+        RenameOutcome outcome = RenameOutcome::NotTried;
+        int error = 0;
+
+        QString originalSource() const { return parkedFrom.isEmpty() ? source : parkedFrom; }
     };
-    // The move that gives the file at `sourceURL` its new name, or nothing when the name is
-    // refused (the row has failed) or is the name it has.
-    std::optional<PlannedMove> planMove(const QUrl &sourceURL, const QString &newName,
-                                        RenameFileDetails &details, const QString &key) const;
+    // A row's file where it was found, and the base name it is to have.
+    struct LocatedRow
+    {
+        QString key;
+        QUrl at;
+        QString newName;
+    };
+    // Checks the rows' names as one batch, moves the files of those that are free, and writes
+    // every row's check and outcome; gives the files renamed.
+    QList<RenamedFile> checkAndMove(const QList<LocatedRow> &located,
+                                    RenameFileDetails &details) const;
     // Moves the files so that a chain of names (a to b's name, b to c's) succeeds from its
-    // end and a cycle goes through a passing name in the same folder; never replaces.
-    void carryOut(QList<PlannedMove> &moves, RenameFileDetails &details) const;
+    // end and a cycle goes through a passing name in the same folder; never replaces. Each
+    // move says how it went; a file that could not go back from a passing name keeps it as
+    // its source.
+    void carryOut(QList<PlannedMove> &moves) const;
     void parkAside(PlannedMove &move, QHash<QString, qsizetype> &holder, qsizetype index) const;
 
     // Hands each listed row that has a path to `name`, in list order; reports the others.

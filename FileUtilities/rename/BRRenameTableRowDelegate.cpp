@@ -52,7 +52,11 @@ void BRRenameTableRowDelegate::paint(QPainter *painter, const QStyleOptionViewIt
     RenameRowStyle::paintNewName(
         painter, parts.newName,
         destination.isValid() ? std::optional<QString>(destination.toString()) : std::nullopt,
+        index.data(RenameTableModel::SuffixRole).toString(),
         index.data(RenameTableModel::EditedRole).toBool());
+
+    RenameRowStyle::paintMark(painter, parts.mark,
+                              static_cast<RowMark>(index.data(RenameTableModel::MarkRole).toInt()));
 
     const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
     const QSize iconSize(20, 20);

@@ -280,8 +280,11 @@ void BRRenameTableView::fillCell(LiveCell &live, int row)
     const QVariant destination = index.data(RenameTableModel::DestinationRole);
     cell->setDestinationName(destination.isValid() ? std::optional<QString>(destination.toString())
                                                    : std::nullopt,
+                             index.data(RenameTableModel::SuffixRole).toString(),
                              index.data(RenameTableModel::EditedRole).toBool());
     cell->setThumbnail(m_rowDelegate->thumbnailFor(live.path));
+    cell->setMark(static_cast<RowMark>(index.data(RenameTableModel::MarkRole).toInt()),
+                  index.data(RenameTableModel::MarkTextRole).toString());
 }
 
 void BRRenameTableView::releaseCell(LiveCell &live)

@@ -2,6 +2,7 @@
 
 #include "BRRenameViewDelegate.h"
 #include "CustomTextField.h"
+#include "ExtensionSuffixLabel.h"
 #include "LookStyleSheets.h"
 #include "RenameRowStyle.h"
 
@@ -36,11 +37,16 @@ QToolButton *makeImageButton(const QString &objectName, const QString &accessibl
 BRRenameTableViewCell::BRRenameTableViewCell(QWidget *parent)
     : QWidget(parent), m_sourceFilesImageView(new QLabel(this)),
       m_sourceFileNamesLabel(new QLabel(this)), m_destFileNameLabel(new CustomTextField(this)),
+      m_extensionSuffix(
+          new ExtensionSuffixLabel(m_destFileNameLabel, RenameRowStyle::newNameFieldFrame())),
       m_removeButton(makeImageButton(QStringLiteral("removeButton"), QStringLiteral("Remove"),
                                      RenameRowStyle::removeIcon(), QSize(18, 18), this)),
       m_popoverButton(makeImageButton(QStringLiteral("popoverButton"), QStringLiteral("Preview"),
-                                      RenameRowStyle::popoverIcon(), QSize(20, 20), this))
+                                      RenameRowStyle::popoverIcon(), QSize(20, 20), this)),
+      m_markView(new QLabel(this))
 {
+    m_markView->setObjectName(QStringLiteral("markView"));
+    m_markView->hide();
     setObjectName(QStringLiteral("renameCell"));
     m_sourceFilesImageView->setObjectName(QStringLiteral("sourceFilesImageView"));
     m_sourceFilesImageView->setAlignment(Qt::AlignCenter);
@@ -52,8 +58,9 @@ BRRenameTableViewCell::BRRenameTableViewCell(QWidget *parent)
     m_destFileNameLabel->installEventFilter(this);
     // Files dragged over the row go to the list, never into the field as text.
     m_destFileNameLabel->setAcceptDrops(false);
+    m_extensionSuffix->setColor(RenameRowStyle::extensionColor());
     setAttributes();
-    setDestinationName(std::nullopt, false);
+    setDestinationName(std::nullopt, QString(), false);
     m_removeButton->hide();
 
     connect(m_removeButton, &QToolButton::clicked, this, &BRRenameTableViewCell::removeAction);
@@ -91,7 +98,8 @@ void BRRenameTableViewCell::updateSourceNameText()
         RenameRowStyle::elidedSourceName(m_sourceFileName, m_sourceFileNamesLabel->width()));
 }
 
-void BRRenameTableViewCell::setDestinationName(const std::optional<QString> &name, bool edited)
+void BRRenameTableViewCell::setDestinationName(const std::optional<QString> &name,
+                                               const QString &suffix, bool edited)
 {
     QPalette palette = m_destFileNameLabel->palette();
     palette.setColor(QPalette::Text,
@@ -101,6 +109,8 @@ void BRRenameTableViewCell::setDestinationName(const std::optional<QString> &nam
     if (isEditing() && m_destFileNameLabel->isModified())
         return;
     const bool named = name && !name->isEmpty();
+    // The placeholder stands alone: a row without a name keeps the name it has.
+    m_extensionSuffix->setSuffix(named ? suffix : QString());
     m_destFileNameLabel->setText(named ? *name : QString());
     if (!m_destFileNameLabel->hasFocus())
         m_destFileNameLabel->setCursorPosition(0); // the start of a long name, as painted
@@ -119,6 +129,18 @@ void BRRenameTableViewCell::setThumbnail(const QImage &image)
 {
     m_thumbnail = image;
     m_sourceFilesImageView->setPixmap(RenameRowStyle::thumbnailPixmap(image, devicePixelRatioF()));
+}
+
+void BRRenameTableViewCell::setMark(RowMark mark, const QString &why)
+{
+    m_mark = mark;
+    m_markView->setVisible(mark != RowMark::None);
+    m_markView->setToolTip(why);
+    m_markView->setAccessibleName(mark == RowMark::Failed ? QStringLiteral("Failed")
+                                                          : QStringLiteral("Will not be renamed"));
+    m_markView->setAccessibleDescription(why);
+    m_markView->setPixmap(
+        RenameRowStyle::markPixmap(mark, m_markView->size(), devicePixelRatioF()));
 }
 
 void BRRenameTableViewCell::setHovered(bool hovered)
@@ -195,6 +217,12 @@ void BRRenameTableViewCell::layoutParts()
     m_sourceFileNamesLabel->setGeometry(parts.sourceName);
     m_destFileNameLabel->setGeometry(parts.newName);
     m_popoverButton->setGeometry(parts.popoverControl);
+    if (m_markView->size() != parts.mark.size()) {
+        m_markView->setGeometry(parts.mark);
+        setMark(m_mark, m_markView->toolTip());
+    } else {
+        m_markView->setGeometry(parts.mark);
+    }
     m_removeButton->setGeometry(parts.removeControl);
     updateSourceNameText();
 }

@@ -5,9 +5,12 @@
 #include <QString>
 #include <QWidget>
 
+#include "RowMark.h"
+
 #include <optional>
 
 class BRRenameViewDelegate;
+class ExtensionSuffixLabel;
 class QLabel;
 class QLineEdit;
 class QToolButton;
@@ -26,10 +29,13 @@ public:
     BRRenameViewDelegate *delegate() const { return m_delegate; }
 
     // The row's contents. A name that is absent or "" shows the placeholder and cannot be
-    // edited: a hand edit always starts from a rule's name.
+    // edited: a hand edit always starts from a rule's name. `suffix` (".jpg") follows a name
+    // in a lighter tone: the whole name the file will have.
     void setSourceFileName(const QString &name);
-    void setDestinationName(const std::optional<QString> &name, bool edited);
+    void setDestinationName(const std::optional<QString> &name, const QString &suffix, bool edited);
     void setThumbnail(const QImage &image);
+    // The red mark of a row in conflict or failed, with why as its tool tip.
+    void setMark(RowMark mark, const QString &why);
     // The remove control shows only while the mouse is over the row.
     void setHovered(bool hovered);
     bool isHovered() const { return m_hovered; }
@@ -41,6 +47,8 @@ public:
     QLineEdit *destFileNameLabel() const { return m_destFileNameLabel; }
     QToolButton *removeButton() const { return m_removeButton; }
     QToolButton *popoverButton() const { return m_popoverButton; }
+    ExtensionSuffixLabel *extensionSuffix() const { return m_extensionSuffix; }
+    QLabel *markView() const { return m_markView; }
 
 public Q_SLOTS:
     void setAttributes();
@@ -66,8 +74,11 @@ private:
     QLabel *m_sourceFilesImageView;
     QLabel *m_sourceFileNamesLabel;
     QLineEdit *m_destFileNameLabel;
+    ExtensionSuffixLabel *m_extensionSuffix;
     QToolButton *m_removeButton;
     QToolButton *m_popoverButton;
+    QLabel *m_markView;
+    RowMark m_mark = RowMark::None;
     BRRenameViewDelegate *m_delegate = nullptr;
     QString m_sourceFileName;
     QImage m_thumbnail;

@@ -16,6 +16,7 @@
 #include "OpenPanel.h"
 #include "RenameList.h"
 #include "RenameNotificationCenter.h"
+#include "RenameProblemText.h"
 #include "RenameTableModel.h"
 #include "RowAnchoredPopover.h"
 #include "ViewFader.h"
@@ -62,6 +63,10 @@ BRRenameViewController::BRRenameViewController(const Services &services, QWidget
             &BRRenameViewController::setFileSourceUrlsAfterDragAndDrop);
     connect(m_center, &RenameNotificationCenter::renameDone, this,
             &BRRenameViewController::displayDragAndDropView);
+    connect(m_center, &RenameNotificationCenter::undoRename, this,
+            &BRRenameViewController::undoRename);
+    connect(m_center, &RenameNotificationCenter::showFailedFiles, this,
+            &BRRenameViewController::showFailedFiles);
     connectList();
     refreshRenameButtonTitle();
 }
@@ -147,6 +152,10 @@ void BRRenameViewController::connectList()
 {
     connect(m_list, &RenameList::rowCountChanged, this,
             &BRRenameViewController::refreshRenameButtonTitle);
+    connect(m_list, &RenameList::renameCountChanged, this,
+            &BRRenameViewController::refreshRenameButtonTitle);
+    connect(m_list, &RenameList::namesChanged, this,
+            &BRRenameViewController::refreshPopoverProblem);
     connect(m_list, &RenameList::renameActiveChanged, this, [this](bool active) {
         m_renameActive = active;
         refreshRenameButtonTitle();
@@ -169,6 +178,7 @@ void BRRenameViewController::connectList()
     });
     connect(m_list, &RenameList::renameStarted, this, &BRRenameViewController::closePopOver);
     connect(m_list, &RenameList::renameEnded, this, &BRRenameViewController::renameEnded);
+    connect(m_list, &RenameList::undoEnded, this, &BRRenameViewController::undoEnded);
 }
 
 int BRRenameViewController::rowCount() const
@@ -231,16 +241,54 @@ void BRRenameViewController::renameAction()
     m_list->renameWithRule();
 }
 
-void BRRenameViewController::renameEnded(const QStringList &renamed, bool someFailed)
+void BRRenameViewController::renameEnded(const QStringList &renamed, int failed)
 {
-    if (someFailed)
+    if (failed > 0)
         showAlert(QStringLiteral("Could not rename some files"),
                   QStringLiteral("Some files could not be renamed since they are locked or you "
                                  "don't have permission to modify them."));
     if (renamed.isEmpty())
         return;
+    m_renameCompleteStatusView->setFailedCount(failed);
+    m_renameCompleteStatusView->setUndoAvailable(m_list->canUndo());
     fadeOutThenShow(m_renameCompleteStatusView, true, true, true, false,
                     [this, renamed] { Q_EMIT m_center->renameComplete(renamed); });
+}
+
+void BRRenameViewController::showFailedFiles()
+{
+    m_list->restoreFailedRows();
+    if (m_list->rowCount() > 0)
+        fadeOutThenShow(m_renameCompleteStatusView, false, true, false, true);
+}
+
+void BRRenameViewController::undoRename()
+{
+    m_list->undoLastRename();
+}
+
+void BRRenameViewController::undoEnded(qsizetype restored, const QList<UndoFailure> &failures)
+{
+    m_renameCompleteStatusView->showUndone(restored, failures.size());
+    m_renameCompleteStatusView->setUndoAvailable(m_list->canUndo());
+    if (failures.isEmpty())
+        return;
+    // Each file by name with its cause; a long list ends with how many more there are.
+    constexpr qsizetype shownAtMost = 12;
+    QStringList lines;
+    for (const UndoFailure &failure : failures) {
+        if (lines.size() == shownAtMost)
+            break;
+        const QString now =
+            failure.presentPath.isEmpty() ? failure.file.toPath : failure.presentPath;
+        lines.append(RenameProblemText::undoFailure(
+            RenameTableModel::lastPathComponent(QUrl::fromLocalFile(now)),
+            QUrl::fromLocalFile(failure.file.fromPath).fileName(), failure.check, failure.error));
+    }
+    if (failures.size() > shownAtMost)
+        lines.append(QStringLiteral("%1 more files could not go back either.")
+                         .arg(failures.size() - shownAtMost));
+    showAlert(QStringLiteral("Some files keep their new names"), lines.join(u'\n'));
 }
 
 // ---------------------------------------------------------------------------------------
@@ -300,8 +348,14 @@ void BRRenameViewController::setViewsHiddenState(bool containerViewHidden,
     const QWidget *focus = QApplication::focusWidget();
     if (focus && focus->isVisible() && isAncestorOf(focus))
         return;
-    for (QWidget *shown : {static_cast<QWidget *>(m_renameCompleteStatusView),
-                           static_cast<QWidget *>(m_dragAndDropView)}) {
+    for (QWidget *shown :
+         {static_cast<QWidget *>(m_renameCompleteStatusView),
+          static_cast<QWidget *>(m_dragAndDropView), static_cast<QWidget *>(m_renameTableView)}) {
+        // The list itself takes the keyboard, for its arrows, Enter and Delete.
+        if (shown == m_renameTableView && shown->isVisible()) {
+            shown->setFocus(Qt::OtherFocusReason);
+            return;
+        }
         if (!shown->isVisible())
             continue;
         for (QWidget *next = shown->nextInFocusChain(); next && next != shown;
@@ -325,8 +379,10 @@ void BRRenameViewController::browseAction()
 
 void BRRenameViewController::refreshRenameButtonTitle()
 {
-    // The words stay "files" for a single file too.
-    const QString title = QStringLiteral("Rename %1 files").arg(m_list->rowCount());
+    // The words stay "files" for a single file too. With names to give, the count is of the
+    // files a press would rename: rows in conflict, or named as they are, are left out.
+    const int count = m_renameActive ? m_list->renameCount() : m_list->rowCount();
+    const QString title = QStringLiteral("Rename %1 files").arg(count);
     setRenameButtonTitle(title, m_renameActive ? Look::Color::TextOnColor
                                                : Look::Color::InactiveButtonText);
 }
@@ -371,11 +427,14 @@ void BRRenameViewController::showPopOver(int row)
 
     closePopOver();
     auto *preview = new BRFilePreviewPopoverViewController();
+    m_preview = preview;
     preview->setDelegate(this);
     preview->setIndex(row);
     m_popover = new RowAnchoredPopover(preview, this);
     m_popover->setAccessibleName(QFileInfo(path).fileName());
     preview->setCurrentName(QFileInfo(path).fileName());
+    // Before it is placed: the reason's lines add to its height.
+    preview->setProblem(RenameTableModel::markText(*record));
     // Only a row on screen has somewhere to point at; the popover is not shown otherwise.
     const QRect anchor = m_renameTableView->popoverAnchorForRow(row);
     if (!anchor.isEmpty())
@@ -390,7 +449,19 @@ void BRRenameViewController::showPopOver(int row)
                 target->setImage(*image);
         });
     if (record->destinationURL && !record->destinationURL->isEmpty())
-        preview->setEditableName(*record->destinationURL);
+        preview->setEditableName(*record->destinationURL, RenameTableModel::suffixOf(*record));
+}
+
+void BRRenameViewController::refreshPopoverProblem()
+{
+    if (!m_popover || !m_preview || !m_preview->index())
+        return;
+    const int row = *m_preview->index();
+    if (row < 0 || row >= m_list->rowCount())
+        return;
+    const auto record = m_list->records().constFind(m_list->keys().at(row));
+    if (record != m_list->records().cend())
+        m_preview->setProblem(RenameTableModel::markText(*record));
 }
 
 void BRRenameViewController::closePopOver()

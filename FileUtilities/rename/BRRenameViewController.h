@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BRRenameFormat.h"
 #include "BRRenameViewDelegate.h"
 #include "LookColors.h"
 #include "RowAnchoredPopover.h"
@@ -16,6 +17,7 @@
 
 class AlertPresenter;
 class BRDragAndDropView;
+class BRFilePreviewPopoverViewController;
 class BRRenameCompleteView;
 class BRRenameTabViewController;
 class BRRenameTableView;
@@ -92,7 +94,12 @@ private:
     void connectList();
     void setFileSourceUrlsAfterDragAndDrop(const QList<QUrl> &urls);
     void displayDragAndDropView();
-    void renameEnded(const QStringList &renamed, bool someFailed);
+    void renameEnded(const QStringList &renamed, int failed);
+    void showFailedFiles();
+    void undoRename();
+    void undoEnded(qsizetype restored, const QList<UndoFailure> &failures);
+    // The open popover's word on its row, after the row's name was checked again.
+    void refreshPopoverProblem();
     void refreshRenameButtonTitle();
     void fadeOutThenShow(QWidget *view, bool containerViewHidden, bool dragAndDropViewHidden,
                          bool renameViewHidden, bool completeStatusViewHidden,
@@ -118,5 +125,6 @@ private:
     QPushButton *m_clearButton = nullptr;
     BRRenameCompleteView *m_renameCompleteStatusView = nullptr;
     QPointer<RowAnchoredPopover> m_popover;
+    QPointer<BRFilePreviewPopoverViewController> m_preview;
     int m_fadeMs = 300;
 };

@@ -1,5 +1,6 @@
 #include "RenameList.h"
 
+#include "RenameProblemText.h"
 #include "WorkerTask.h"
 
 #include <QFileInfo>
@@ -9,7 +10,8 @@
 #include <memory>
 #include <utility>
 
-// What a rule run hands back: its report, and the names it wrote into its copy.
+// What a rule run hands back: its report (none when it named nothing: a check alone, or a
+// number that does not parse), and the names and checks it wrote into its copy.
 struct RenameList::RuleRunResult
 {
     std::optional<RuleRunReport> report;
@@ -63,7 +65,8 @@ void RenameList::add(const QList<QUrl> &urls)
     announce();
     if (rowCount() != rowsBefore)
         Q_EMIT rowCountChanged(rowCount());
-    setRenameActive(false);
+    setRenameActive(m_retrying);
+    recount();
     if (duplicateMet)
         Q_EMIT namesAlreadyListed();
     if (m_keys.isEmpty()) {
@@ -72,6 +75,8 @@ void RenameList::add(const QList<QUrl> &urls)
     }
     if (!m_rule || !m_placement) {
         announce();
+        // A file added can hold a name another row was to take.
+        startCheckRun();
         return;
     }
     switch (*m_rule) {
@@ -100,6 +105,10 @@ void RenameList::remove(const QString &key)
 {
     removeKey(key);
     announce();
+    recount();
+    // A row gone can free a name another row was to take.
+    if (!m_keys.isEmpty())
+        startCheckRun();
 }
 
 void RenameList::removeKey(const QString &key)
@@ -142,7 +151,9 @@ void RenameList::clearAll()
     m_rule.reset();
     m_placement.reset();
     m_addText.reset();
+    m_retrying = false;
     setRenameActive(false);
+    recount();
     if (hadRows)
         Q_EMIT rowCountChanged(0);
     Q_EMIT cleared();
@@ -234,9 +245,13 @@ void RenameList::clearRule()
     m_addText.reset();
     // Names of a run under way would bring the cleared rule back.
     ++m_ruleRunSequence;
-    setRenameActive(false);
+    setRenameActive(m_retrying);
     dropRuleNames();
     announce();
+    recount();
+    // Names typed by hand stay, and are checked without the rule's.
+    if (!m_keys.isEmpty())
+        startCheckRun();
 }
 
 void RenameList::dropRuleNames()
@@ -249,39 +264,47 @@ void RenameList::dropRuleNames()
         if (record->sourceURL.toLocalFile().isEmpty()) {
             Q_EMIT fileDoesNotExist(key);
             removeKey(key);
-        } else if (record->nameSource != NameSource::HandEdit) {
+        } else if (record->nameSource == NameSource::Rule) {
             record->destinationURL.reset();
+            record->check = NameCheck::NoName;
         }
     }
 }
 
-void RenameList::startRuleRun()
+void RenameList::startRuleRun(bool withRule)
 {
-    if (!m_rule || !m_placement)
-        return;
-    const quint64 sequence = ++m_ruleRunSequence;
+    const bool applyRule = withRule && m_rule && m_placement;
+    // A rule run makes every run under way stale; a check alone changes no name, so it lands
+    // beside the rule run it follows.
+    const quint64 sequence = applyRule ? ++m_ruleRunSequence : m_ruleRunSequence;
     ++m_ruleRunsInFlight;
     // The worker gets its own copy of the list; the rows here are only written when the
     // run's names land, on this thread.
-    const RenameRule rule = *m_rule;
-    const NamePlacement where = *m_placement;
+    const RenameRule rule = m_rule.value_or(RenameRule::ChangeFullNames);
+    const NamePlacement where = m_placement.value_or(NamePlacement::AfterName);
     const QString text = rule == RenameRule::ChangeFullNames ? m_newNameText.value_or(QString())
                                                              : m_addText.value_or(QString());
     const QString numberText = m_numberText.value_or(QString());
     // The names land only while the list lives; a run whose list is gone just ends.
     runOnWorker(
         this,
-        [format = m_format, rule, text, numberText, where, keys = m_keys,
+        [format = m_format, applyRule, rule, text, numberText, where, keys = m_keys,
          details = m_records]() mutable {
             auto result = std::make_shared<RuleRunResult>();
-            switch (rule) {
-            case RenameRule::ChangeFullNames:
-                result->report = format.changeFullFileNames(numberText, text, details, keys, where);
-                break;
-            case RenameRule::AddText:
-                result->report = format.addTextToFileNames(text, details, keys, where);
-                break;
+            if (applyRule) {
+                switch (rule) {
+                case RenameRule::ChangeFullNames:
+                    result->report =
+                        format.changeFullFileNames(numberText, text, details, keys, where);
+                    break;
+                case RenameRule::AddText:
+                    result->report = format.addTextToFileNames(text, details, keys, where);
+                    break;
+                }
             }
+            // Every name is checked against the others and the disk, so that a conflict shows
+            // before the rename is pressed.
+            BRRenameFormat::checkNames(keys, details);
             result->details = std::move(details);
             return result;
         },
@@ -294,28 +317,74 @@ void RenameList::startRuleRun()
 void RenameList::finishRuleRun(quint64 sequence, RuleRunResult &result)
 {
     // A later text was typed, or the rule or the list was cleared, since this run began.
-    if (sequence != m_ruleRunSequence || !result.report) {
+    if (sequence != m_ruleRunSequence) {
+        releaseOnWorker(std::move(result.details));
         Q_EMIT ruleRunEnded();
         return;
     }
     bool missing = false;
-    for (const QString &key : std::as_const(result.report->missingKeys)) {
-        missing = true;
-        removeKey(key);
+    if (result.report) {
+        for (const QString &key : std::as_const(result.report->missingKeys)) {
+            missing = true;
+            removeKey(key);
+        }
     }
-    // Rows named by hand while the run worked keep what the user typed.
-    for (auto row = m_records.begin(); row != m_records.end(); ++row) {
-        const auto named = result.details.constFind(row.key());
-        if (named == result.details.cend() || row->nameSource == NameSource::HandEdit ||
+    // The rule's names land on the rows that follow it; rows named by hand while the run
+    // worked keep what the user typed. A check lands where the row still has the name that
+    // was checked; a row whose name changed since waits for the next check.
+    bool changed = result.report.has_value();
+    bool unchecked = false;
+    for (const QString &key : std::as_const(m_keys)) {
+        const auto row = m_records.find(key);
+        const auto named = result.details.constFind(key);
+        if (row == m_records.end() || named == result.details.cend() ||
             named->sourceURL != row->sourceURL)
             continue;
-        row->destinationURL = named->destinationURL;
+        if (result.report && row->nameSource == NameSource::Rule &&
+            row->destinationURL != named->destinationURL) {
+            row->destinationURL = named->destinationURL;
+            // A failure under the old name says nothing of the new one.
+            row->outcome = RenameOutcome::NotTried;
+        }
+        const NameCheck check =
+            row->destinationURL == named->destinationURL ? named->check : NameCheck::Unchecked;
+        if (row->check != check) {
+            row->check = check;
+            changed = true;
+        }
+        unchecked = unchecked || check == NameCheck::Unchecked;
     }
     if (missing)
         Q_EMIT filesMissing();
-    announce();
+    if (changed)
+        announce();
+    recount();
     releaseOnWorker(std::move(result.details));
+    if (unchecked && m_ruleRunsInFlight == 0)
+        startCheckRun();
     Q_EMIT ruleRunEnded();
+}
+
+void RenameList::recount()
+{
+    int count = 0;
+    for (const QString &key : std::as_const(m_keys)) {
+        const auto row = m_records.constFind(key);
+        if (row == m_records.cend() || !row->destinationURL || row->destinationURL->isEmpty())
+            continue;
+        switch (row->check) {
+        case NameCheck::Unchecked:
+        case NameCheck::Free:
+            ++count;
+            break;
+        default:
+            break;
+        }
+    }
+    if (count == m_renameCount)
+        return;
+    m_renameCount = count;
+    Q_EMIT renameCountChanged(count);
 }
 
 std::optional<QString> RenameList::ruleNameForRow(int row) const
@@ -355,8 +424,16 @@ void RenameList::setHandName(int row, const QString &text)
     } else if (record->destinationURL && *record->destinationURL != text) {
         record->destinationURL = text;
         record->nameSource = NameSource::HandEdit;
+    } else {
+        announce(); // the same name: nothing to check again
+        return;
     }
+    // The old name's marks would mislead until the new name is checked.
+    record->check = NameCheck::Unchecked;
+    record->outcome = RenameOutcome::NotTried;
     announce();
+    recount();
+    startCheckRun();
 }
 
 // ---------------------------------------------------------------------------------------
@@ -364,8 +441,12 @@ void RenameList::setHandName(int row, const QString &text)
 
 void RenameList::renameWithRule()
 {
-    if (!m_rule)
+    // Failed rows brought back keep the names they failed under: no rule is needed.
+    if (!m_rule) {
+        if (m_retrying)
+            rename();
         return;
+    }
     switch (*m_rule) {
     case RenameRule::ChangeFullNames:
         if (m_newNameText && !m_newNameText->isEmpty())
@@ -380,10 +461,14 @@ void RenameList::renameWithRule()
 
 void RenameList::rename()
 {
-    // One run at a time: a second press while files move would race the first.
-    if (m_renameRunning || m_keys.isEmpty())
+    // One run at a time: a second press while files move would race the first, and so
+    // would an undo under way.
+    if (m_renameRunning || m_undoRunning || m_keys.isEmpty())
         return;
     m_renameRunning = true;
+    // A new rename: the last one can no longer be undone, nor its failures tried again.
+    m_undo.clear();
+    m_failed = {};
     Q_EMIT renameStarted();
     runOnWorker(
         this,
@@ -401,15 +486,26 @@ void RenameList::rename()
 void RenameList::finishRenameRun(RenameRunResult &result)
 {
     m_renameRunning = false;
-    // Outcomes first, so the rows still listed carry them when the report is made.
+    // Outcomes first, so the rows still listed carry them when the report is made. A row
+    // the user was shown as going to be renamed, but that the run found in conflict, has
+    // failed; one already marked in conflict was left out knowingly.
     for (const QString &key : std::as_const(result.keys)) {
         const auto done = result.details.constFind(key);
         const auto row = m_records.find(key);
         if (done == result.details.cend() || row == m_records.end())
             continue;
+        const bool promised = row->destinationURL && !row->destinationURL->isEmpty() &&
+                              (row->check == NameCheck::Free || row->check == NameCheck::Unchecked);
         row->outcome = done->outcome;
         row->sourceURL = done->sourceURL;
+        row->check = done->check;
+        row->failureError = done->failureError;
+        if (promised && isConflict(done->check)) {
+            row->outcome = RenameOutcome::Failed;
+            row->failureError = RenameProblemText::errorOfConflict(done->check);
+        }
     }
+    m_undo = std::move(result.report.renamed);
     // Bookmarks refreshed for files found somewhere else; none if the list was cleared.
     if (!m_keys.isEmpty())
         m_bookmarks.insert(result.bookmarks);
@@ -422,15 +518,24 @@ void RenameList::finishRenameRun(RenameRunResult &result)
         Q_EMIT filesMissing();
 
     QStringList renamed;
-    bool someFailed = false;
+    HeldRows failed;
     for (const QString &key : std::as_const(m_keys)) {
         const auto row = m_records.constFind(key);
         if (row == m_records.cend() || !row->destinationURL)
             continue;
         switch (row->outcome) {
-        case RenameOutcome::Failed:
-            someFailed = true;
+        case RenameOutcome::Failed: {
+            failed.keys.append(key);
+            RenameRecord held = *row;
+            // Another try keeps the name that failed, whatever rule is typed next.
+            if (held.nameSource == NameSource::Rule)
+                held.nameSource = NameSource::EarlierRun;
+            failed.records.insert(key, held);
+            const QString path = row->sourceURL.toLocalFile();
+            if (const auto bookmark = m_bookmarks.constFind(path); bookmark != m_bookmarks.cend())
+                failed.bookmarks.insert(path, *bookmark);
             break;
+        }
         case RenameOutcome::Succeeded:
             if (!row->destinationURL->isEmpty())
                 renamed.append(*row->destinationURL);
@@ -439,11 +544,57 @@ void RenameList::finishRenameRun(RenameRunResult &result)
             break;
         }
     }
-    // Once files have moved, the list has done its work; else the views show the rows left,
-    // without those found missing, and the outcomes of the rest.
-    if (!renamed.isEmpty())
+    const int failedCount = static_cast<int>(failed.keys.size());
+    // Once files have moved, the list has done its work and the failed rows wait for
+    // restoreFailedRows(); else the views show the rows left, without those found missing,
+    // and the outcomes of the rest.
+    if (!renamed.isEmpty()) {
         clearAll();
+        m_failed = std::move(failed);
+    }
     announce();
-    Q_EMIT renameEnded(renamed, someFailed);
+    recount();
+    Q_EMIT renameEnded(renamed, failedCount);
     releaseOnWorker(std::move(result));
+}
+
+void RenameList::restoreFailedRows()
+{
+    if (m_failed.keys.isEmpty() || m_renameRunning)
+        return;
+    HeldRows held = std::exchange(m_failed, {});
+    clearAll();
+    m_index = static_cast<int>(held.keys.size());
+    m_keys = std::move(held.keys);
+    m_records = std::move(held.records);
+    m_bookmarks = std::move(held.bookmarks);
+    m_keysSorted = false;
+    m_keysChangedSinceAnnounce = true;
+    m_retrying = true;
+    announce();
+    Q_EMIT rowCountChanged(rowCount());
+    setRenameActive(true);
+    recount();
+    // The folders may have changed since the run.
+    startCheckRun();
+}
+
+void RenameList::undoLastRename()
+{
+    if (!canUndo() || m_renameRunning)
+        return;
+    m_undoRunning = true;
+    runOnWorker(
+        this,
+        [format = m_format, files = m_undo] {
+            return std::make_shared<UndoReport>(format.undoRenames(files));
+        },
+        [this](const std::shared_ptr<UndoReport> &report) {
+            m_undoRunning = false;
+            // What could not go back stays on record, for another try.
+            m_undo.clear();
+            for (const UndoFailure &failure : std::as_const(report->failures))
+                m_undo.append(failure.file);
+            Q_EMIT undoEnded(report->restored, report->failures);
+        });
 }

@@ -59,12 +59,26 @@ public:
     // text withdraws the edit and the row follows the rule again.
     void setHandName(int row, const QString &text);
 
-    // Whether a rule with a text is set, so that a rename would do something; the rename
-    // button looks active then.
+    // Whether a rule with a text is set, or failed rows are back for another try, so that a
+    // rename would do something; the rename button looks active then.
     bool renameActive() const { return m_renameActive; }
     bool renameRunning() const { return m_renameRunning; }
-    // Moves the files to their new names, when the rule has a text; one run at a time.
+    // How many files a rename would move now: rows with a name that is not in conflict and
+    // not the name they have. A row whose name has not been checked yet counts.
+    int renameCount() const { return m_renameCount; }
+    // Moves the files to their new names, when the rule has a text or failed rows are back;
+    // one run at a time. Rows in conflict are not attempted.
     void renameWithRule();
+
+    // After a rename that moved files, the rows that failed wait here; this brings them back
+    // as the list, with their names and reasons, ready for another try.
+    int failedRowsHeld() const { return static_cast<int>(m_failed.keys.size()); }
+    void restoreFailedRows();
+
+    // The last rename's moves, until the next rename: Undo gives each file its old name.
+    bool canUndo() const { return !m_undo.isEmpty() && !m_undoRunning; }
+    const QList<RenamedFile> &undoRecord() const { return m_undo; }
+    void undoLastRename();
 
 Q_SIGNALS:
     // Rows came, went or moved: views start over from keys().
@@ -85,15 +99,26 @@ Q_SIGNALS:
     void fileDoesNotExist(const QString &key);
     // A rule run came back, whether its names landed or it was overtaken.
     void ruleRunEnded();
+    // The number of files a rename would move changed.
+    void renameCountChanged(int count);
     // A rename run is about to copy the list.
     void renameStarted();
     // A rename run's outcomes reached the rows. `renamed` holds the new names of the files
-    // moved; when there are any, the list has been cleared.
-    void renameEnded(const QStringList &renamed, bool someFailed);
+    // moved; when there are any, the list has been cleared and the failed rows are held.
+    void renameEnded(const QStringList &renamed, int failed);
+    // An undo ran: how many files have their old names again, and those that could not.
+    void undoEnded(qsizetype restored, const QList<UndoFailure> &failures);
 
 private:
     struct RuleRunResult;
     struct RenameRunResult;
+    // Rows set aside after a rename: what restoreFailedRows() brings back.
+    struct HeldRows
+    {
+        QStringList keys;
+        RenameFileDetails records;
+        RenameBookmarks bookmarks;
+    };
 
     void clearAll();
     // Takes the key off the list without telling the views.
@@ -103,8 +128,13 @@ private:
     // Sorts and tells the views what changed since they were last told.
     void announce();
     void setRenameActive(bool active);
-    void startRuleRun();
+    // A run on a worker over a copy of the list: the rule's names (when `withRule` and a rule
+    // is set), then the check of every row's name against the others and the disk.
+    void startRuleRun(bool withRule = true);
+    void startCheckRun() { startRuleRun(false); }
     void finishRuleRun(quint64 sequence, RuleRunResult &result);
+    // Counts the rows a rename would move and tells the views when that changed.
+    void recount();
     void rename();
     void finishRenameRun(RenameRunResult &result);
     std::optional<QString> ruleNameForRow(int row) const;
@@ -133,4 +163,10 @@ private:
     quint64 m_ruleRunSequence = 0;
     int m_ruleRunsInFlight = 0;
     bool m_renameRunning = false;
+    int m_renameCount = 0;
+    // Failed rows are back for another try: the rename button needs no rule.
+    bool m_retrying = false;
+    HeldRows m_failed;
+    QList<RenamedFile> m_undo;
+    bool m_undoRunning = false;
 };

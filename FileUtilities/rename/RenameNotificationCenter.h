@@ -21,6 +21,10 @@ Q_SIGNALS:
     void renameComplete(const QStringList &renamedFiles);
     // The user closed the completion view.
     void renameDone();
+    // The completion view's Undo Rename: the files are to take their old names again.
+    void undoRename();
+    // The completion view's Show failed files: the failed rows come back for another try.
+    void showFailedFiles();
     // The list was emptied; the option panels empty their fields.
     void clearText();
 };

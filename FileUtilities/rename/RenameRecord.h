@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NameCheck.h"
 #include "NameSource.h"
 #include "RenameOutcome.h"
 
@@ -19,6 +20,11 @@ struct RenameRecord
     std::optional<QString> destinationURL = QString();
     NameSource nameSource = NameSource::Rule;
     RenameOutcome outcome = RenameOutcome::NotTried;
+    // What the new name met when last checked against the other rows and the folder.
+    NameCheck check = {};
+    // The system's error number of the move that failed, when the last rename failed in a
+    // move; 0 otherwise.
+    int failureError = {};
 };
 
 // The list's records under their keys (a file's last path component).

@@ -1,5 +1,6 @@
 #include "RenameRowStyle.h"
 
+#include "ExtensionSuffixLabel.h"
 #include "Look.h"
 #include "LookStyleSheets.h"
 
@@ -17,6 +18,9 @@ constexpr int fieldHeight = 36;
 constexpr int nameHeight = 30;
 constexpr int popoverSide = 28;
 constexpr int removeSide = 22;
+constexpr int markWidth = 56;
+constexpr int markHeight = 24;
+constexpr int markDisc = 18;
 constexpr int thumbnailRadius = 6;
 
 // The field's frame, in the numbers its style sheet gives and QLineEdit adds: a border,
@@ -55,8 +59,10 @@ RenameRowStyle::Geometry RenameRowStyle::geometry(const QRect &row)
                                 middle - removeSide / 2, removeSide, removeSide);
     parts.popoverControl = QRect(parts.removeControl.left() - 10 - popoverSide,
                                  middle - popoverSide / 2, popoverSide, popoverSide);
+    parts.mark = QRect(parts.popoverControl.left() - 10 - markWidth, middle - markHeight / 2,
+                       markWidth, markHeight);
     const int left = parts.thumbnail.right() + 1 + gap;
-    const int right = parts.popoverControl.left() - 16;
+    const int right = parts.mark.left() - 8;
     const int available = qMax(0, right - left - arrowWidth);
     // The new name gets the larger share: it is the one being made, and its text is larger.
     const int nameWidth = available * 2 / 5;
@@ -97,6 +103,11 @@ QColor RenameRowStyle::placeholderColor()
     return Look::color(Look::Color::NewNamePlaceholder);
 }
 
+QColor RenameRowStyle::extensionColor()
+{
+    return Look::color(Look::Color::SecondaryText);
+}
+
 QString RenameRowStyle::placeholderText()
 {
     return QStringLiteral("New Name");
@@ -115,6 +126,12 @@ QString RenameRowStyle::newNameFieldStyleSheet()
         .arg(Look::StyleSheet::colorValue(Look::Color::FieldHoverBorder),
              Look::StyleSheet::colorValue(Look::Color::FieldFocusBorder),
              Look::StyleSheet::colorValue(Look::Color::FieldGround));
+}
+
+QMargins RenameRowStyle::newNameFieldFrame()
+{
+    return QMargins(fieldBorder + fieldPadding, fieldBorder, fieldBorder + fieldPadding,
+                    fieldBorder);
 }
 
 void RenameRowStyle::paintGround(QPainter *painter, const QRect &row, bool hovered)
@@ -174,7 +191,8 @@ QRect RenameRowStyle::newNameLine(const QRect &field, const QFontMetrics &metric
 }
 
 void RenameRowStyle::paintNewName(QPainter *painter, const QRect &field,
-                                  const std::optional<QString> &name, bool edited)
+                                  const std::optional<QString> &name, const QString &suffix,
+                                  bool edited)
 {
     painter->save();
     painter->setFont(newNameFont());
@@ -187,11 +205,64 @@ void RenameRowStyle::paintNewName(QPainter *painter, const QRect &field,
                           metrics.elidedText(placeholder, Qt::ElideRight, line.width()));
     } else {
         const QRect line = newNameLine(field, metrics, *name);
+        const int baseline = line.top() + metrics.ascent();
+        // The name gives way to the suffix, as the field's text does.
+        const int nameWidth =
+            qMax(0, line.width() - ExtensionSuffixLabel::widthFor(metrics, suffix));
+        const QString shown = metrics.elidedText(*name, Qt::ElideRight, nameWidth);
         painter->setPen(edited ? editedNameColor() : ruleNameColor());
-        painter->drawText(QPoint(line.left(), line.top() + metrics.ascent()),
-                          metrics.elidedText(*name, Qt::ElideRight, line.width()));
+        painter->drawText(QPoint(line.left(), baseline), shown);
+        if (!suffix.isEmpty()) {
+            painter->setPen(extensionColor());
+            painter->drawText(
+                QPoint(line.left() + qMin(metrics.horizontalAdvance(shown), nameWidth), baseline),
+                suffix);
+        }
     }
     painter->restore();
+}
+
+void RenameRowStyle::paintMark(QPainter *painter, const QRect &rect, RowMark mark)
+{
+    if (mark == RowMark::None)
+        return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const QColor red = Look::color(Look::Color::ProblemMark);
+    switch (mark) {
+    case RowMark::Conflict: {
+        const QRectF disc(rect.right() + 1 - markDisc, rect.center().y() + 1 - markDisc / 2.0,
+                          markDisc, markDisc);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(red);
+        painter->drawEllipse(disc);
+        QPen bang(Look::color(Look::Color::TextOnColor), 2.2);
+        bang.setCapStyle(Qt::RoundCap);
+        painter->setPen(bang);
+        const qreal x = disc.center().x();
+        painter->drawLine(QPointF(x, disc.top() + 4.5), QPointF(x, disc.top() + 10.5));
+        painter->drawPoint(QPointF(x, disc.top() + 14));
+        break;
+    }
+    case RowMark::Failed:
+        painter->setPen(red);
+        painter->setFont(Look::font(13, QFont::DemiBold));
+        painter->drawText(rect, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("Failed"));
+        break;
+    case RowMark::None:
+        break;
+    }
+    painter->restore();
+}
+
+QPixmap RenameRowStyle::markPixmap(RowMark mark, QSize size, qreal ratio)
+{
+    QPixmap pixmap(size * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paintMark(&painter, QRect(QPoint(0, 0), size), mark);
+    return pixmap;
 }
 
 QString RenameRowStyle::elidedSourceName(const QString &name, int width)

@@ -4,8 +4,11 @@
 #include <QFont>
 #include <QIcon>
 #include <QImage>
+#include <QMargins>
 #include <QRect>
 #include <QString>
+
+#include "RowMark.h"
 
 #include <optional>
 
@@ -28,6 +31,7 @@ public:
         QRect sourceName;
         QRect arrow;
         QRect newName; // the whole field, border included
+        QRect mark;    // the conflict or failure mark after the new name
         QRect popoverControl;
         QRect removeControl;
     };
@@ -40,19 +44,31 @@ public:
     static QColor ruleNameColor();
     static QColor editedNameColor();
     static QColor placeholderColor();
+    // The extension after a new name, lighter than the name: it is kept, not made.
+    static QColor extensionColor();
     static QString placeholderText();
 
     // The new-name field's frame; the painted name is placed by the same numbers.
     static QString newNameFieldStyleSheet();
+    // The field's border and padding on each side.
+    static QMargins newNameFieldFrame();
 
     // The live cell tints the row under the mouse, so the user sees which row answers.
     static void paintGround(QPainter *painter, const QRect &row, bool hovered = false);
     static void paintThumbnail(QPainter *painter, const QRect &frame, const QImage &image);
     static void paintArrow(QPainter *painter, const QRect &rect);
-    // The new name, or the placeholder, where the field would draw it.
+    // The new name, or the placeholder, where the field would draw it; then `suffix` (".jpg",
+    // the extension the file keeps) in a lighter tone, where the field's suffix lies.
     static void paintNewName(QPainter *painter, const QRect &field,
-                             const std::optional<QString> &name, bool edited);
+                             const std::optional<QString> &name, const QString &suffix,
+                             bool edited);
     static QString elidedSourceName(const QString &name, int width);
+
+    // A red disc with "!" for a conflict, the word "Failed" for a failure, at the right of
+    // `rect`.
+    static void paintMark(QPainter *painter, const QRect &rect, RowMark mark);
+    // The same as a picture, for the live cell.
+    static QPixmap markPixmap(RowMark mark, QSize size, qreal ratio);
 
     // The picture in its frame, for the live cell's image view.
     static QPixmap thumbnailPixmap(const QImage &image, qreal ratio);

@@ -1,6 +1,8 @@
 #include "RenameTableModel.h"
 
+#include "BRRenameFormat.h"
 #include "RenameList.h"
+#include "RenameProblemText.h"
 
 #include <QMimeData>
 
@@ -79,13 +81,50 @@ int RenameTableModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : m_rowCount;
 }
 
+QString RenameTableModel::suffixOf(const RenameRecord &record)
+{
+    const QString extension = BRRenameFormat::pathExtension(record.sourceURL);
+    return extension.isEmpty() ? QString() : QLatin1Char('.') + extension;
+}
+
+RowMark RenameTableModel::markOf(const RenameRecord &record)
+{
+    if (!record.destinationURL || record.destinationURL->isEmpty())
+        return RowMark::None;
+    if (isConflict(record.check))
+        return RowMark::Conflict;
+    if (record.outcome == RenameOutcome::Failed)
+        return RowMark::Failed;
+    return RowMark::None;
+}
+
+QString RenameTableModel::markText(const RenameRecord &record)
+{
+    const QString file = lastPathComponent(record.sourceURL);
+    switch (markOf(record)) {
+    case RowMark::Conflict: {
+        const QString target =
+            BRRenameFormat::targetFileName(record.sourceURL, *record.destinationURL);
+        return RenameProblemText::conflict(file, target, record.check);
+    }
+    case RowMark::Failed:
+        return RenameProblemText::failure(file, record.failureError);
+    case RowMark::None:
+        break;
+    }
+    return QString();
+}
+
 QString RenameTableModel::accessibleDescription(const RenameRecord &record)
 {
     if (!record.destinationURL || record.destinationURL->isEmpty())
         return QStringLiteral("No new name");
-    if (record.nameSource == NameSource::HandEdit)
-        return QStringLiteral("New name, typed: ") + *record.destinationURL;
-    return QStringLiteral("New name: ") + *record.destinationURL;
+    const QString whole = *record.destinationURL + suffixOf(record);
+    const QString name = record.nameSource == NameSource::HandEdit
+                             ? QStringLiteral("New name, typed: ") + whole
+                             : QStringLiteral("New name: ") + whole;
+    const QString why = markText(record);
+    return why.isEmpty() ? name : name + QStringLiteral(". ") + why;
 }
 
 QVariant RenameTableModel::data(const QModelIndex &index, int role) const
@@ -102,6 +141,9 @@ QVariant RenameTableModel::data(const QModelIndex &index, int role) const
     case SourcePathRole:
     case DestinationRole:
     case EditedRole:
+    case SuffixRole:
+    case MarkRole:
+    case MarkTextRole:
         break;
     default:
         return {};
@@ -122,6 +164,12 @@ QVariant RenameTableModel::data(const QModelIndex &index, int role) const
         return record->destinationURL ? QVariant(*record->destinationURL) : QVariant();
     case EditedRole:
         return record->nameSource == NameSource::HandEdit;
+    case SuffixRole:
+        return suffixOf(*record);
+    case MarkRole:
+        return static_cast<int>(markOf(*record));
+    case MarkTextRole:
+        return markText(*record);
     default:
         return {};
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RenameRecord.h"
+#include "RowMark.h"
 
 #include <QAbstractListModel>
 #include <QList>
@@ -31,6 +32,13 @@ public:
         DestinationRole,
         // True for a name the user typed.
         EditedRole,
+        // What follows the new name in the file's whole new name: ".jpg", or "" when the
+        // file has no extension.
+        SuffixRole,
+        // The row's RowMark, as an int.
+        MarkRole,
+        // Why the row is marked, as a sentence that names the file; "" without a mark.
+        MarkTextRole,
     };
 
     explicit RenameTableModel(QObject *parent = nullptr);
@@ -46,8 +54,14 @@ public:
     int rowOfKey(const QString &key) const;
     // The last component of the record's path, for a folder too ("/a/b/" gives "b").
     static QString lastPathComponent(const QUrl &url);
-    // What a row says to a screen reader after its old name: the new name the row paints,
-    // and whether the user typed it.
+    // ".jpg" for a file whose name ends in .jpg; "" for none.
+    static QString suffixOf(const RenameRecord &record);
+    // A conflict outweighs a failure: it is what the user can change now. A failed row
+    // whose name has since changed has lost its mark with its outcome.
+    static RowMark markOf(const RenameRecord &record);
+    static QString markText(const RenameRecord &record);
+    // What a row says to a screen reader after its old name: the whole new name the row
+    // paints, whether the user typed it, and why it is marked.
     static QString accessibleDescription(const RenameRecord &record);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;

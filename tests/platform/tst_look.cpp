@@ -87,6 +87,8 @@ private Q_SLOTS:
             row(Color::SecondaryText, ground, 4.5);
         }
         row(Color::NewNamePlaceholder, Color::WindowGround, 4.5);
+        row(Color::ProblemMark, Color::WindowGround, 4.5);
+        row(Color::ProblemMark, Color::RenameRowHover, 4.5);
         row(Color::NewNamePlaceholder, Color::RenameRowHover, 4.5);
         row(Color::PreviewText, Color::Paper, 4.5);
         row(Color::PlainButtonText, Color::PlainButtonPressed, 4.5);

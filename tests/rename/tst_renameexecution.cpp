@@ -73,6 +73,13 @@ struct Listing
             states.append(details.value(key).outcome);
         return states;
     }
+    QList<NameCheck> checks() const
+    {
+        QList<NameCheck> checks;
+        for (const QString &key : keys)
+            checks.append(details.value(key).check);
+        return checks;
+    }
     QString content(const QString &relativePath) const
     {
         return QString::fromUtf8(contentOf(dir.filePath(relativePath)));
@@ -109,44 +116,63 @@ private Q_SLOTS:
         QCOMPARE(l.details.value(u"a.jpg"_s).sourceURL.fileName(), u"a.jpg"_s);
     }
 
-    // Nothing is replaced: a taken name fails that row alone, including a name that an
-    // earlier row of the same run has just taken, and one taken after the list was made.
-    void takenNamesFailAndTheRestGoOn_data()
+    // Nothing is replaced, and a row in conflict is not even attempted: a name taken in the
+    // folder, one that two rows of the batch would take (neither gets it), the name a file
+    // has already. The others go on.
+    void rowsInConflictAreNotAttempted_data()
     {
         QTest::addColumn<QStringList>("files");
         QTest::addColumn<QStringList>("names");
         QTest::addColumn<QStringList>("present");
         QTest::addColumn<QList<RenameOutcome>>("states");
+        QTest::addColumn<QList<NameCheck>>("checks");
         QTest::addColumn<QStringList>("tree");
         const RenameOutcome ok = RenameOutcome::Succeeded;
-        const RenameOutcome failed = RenameOutcome::Failed;
-        QTest::newRow("some failed")
+        const RenameOutcome no = RenameOutcome::NotTried;
+        const NameCheck free = NameCheck::Free;
+        const NameCheck taken = NameCheck::TakenInFolder;
+        QTest::newRow("one name taken")
             << QStringList{u"a.jpg"_s, u"b.jpg"_s} << QStringList{u"a1"_s, u"a2"_s}
-            << QStringList{u"a1.jpg"_s} << QList<RenameOutcome>{failed, ok}
+            << QStringList{u"a1.jpg"_s} << QList<RenameOutcome>{no, ok}
+            << QList<NameCheck>{taken, free}
             << QStringList{u"a.jpg=a.jpg"_s, u"a1.jpg=present"_s, u"a2.jpg=b.jpg"_s};
-        QTest::newRow("none moved")
+        QTest::newRow("every name taken")
             << QStringList{u"a.jpg"_s, u"b.jpg"_s} << QStringList{u"x"_s, u"y"_s}
-            << QStringList{u"x.jpg"_s, u"y.jpg"_s} << QList<RenameOutcome>{failed, failed}
+            << QStringList{u"x.jpg"_s, u"y.jpg"_s} << QList<RenameOutcome>{no, no}
+            << QList<NameCheck>{taken, taken}
             << QStringList{u"a.jpg=a.jpg"_s, u"b.jpg=b.jpg"_s, u"x.jpg=present"_s,
                            u"y.jpg=present"_s};
         QTest::newRow("two rows, one name")
-            << QStringList{u"a.1.txt"_s, u"a.2.txt"_s} << QStringList{u"a-x"_s, u"a-x"_s}
-            << QStringList() << QList<RenameOutcome>{ok, failed}
-            << QStringList{u"a-x.txt=a.1.txt"_s, u"a.2.txt=a.2.txt"_s};
+            << QStringList{u"a.1.txt"_s, u"a.2.txt"_s, u"c.txt"_s}
+            << QStringList{u"a-x"_s, u"a-x"_s, u"c-x"_s} << QStringList()
+            << QList<RenameOutcome>{no, no, ok}
+            << QList<NameCheck>{NameCheck::SameAsAnotherRow, NameCheck::SameAsAnotherRow, free}
+            << QStringList{u"a.1.txt=a.1.txt"_s, u"a.2.txt=a.2.txt"_s, u"c-x.txt=c.txt"_s};
         // A file that has its new name already is neither renamed nor failed.
         QTest::newRow("the name it has")
             << QStringList{u"a.jpg"_s} << QStringList{u"a"_s} << QStringList()
-            << QList<RenameOutcome>{RenameOutcome::NotTried} << QStringList{u"a.jpg=a.jpg"_s};
+            << QList<RenameOutcome>{no} << QList<NameCheck>{NameCheck::Unchanged}
+            << QStringList{u"a.jpg=a.jpg"_s};
         QTest::newRow("a folder of that name")
             << QStringList{u"a.jpg"_s} << QStringList{u"Trip"_s} << QStringList{u"Trip.jpg/"_s}
-            << QList<RenameOutcome>{failed} << QStringList{u"a.jpg=a.jpg"_s, u"Trip.jpg=<none>"_s};
+            << QList<RenameOutcome>{no} << QList<NameCheck>{taken}
+            << QStringList{u"a.jpg=a.jpg"_s, u"Trip.jpg=<none>"_s};
+        // b.jpg keeps its name, so a.jpg cannot have it; c.jpg waits on a.jpg's name, which
+        // a.jpg now keeps.
+        QTest::newRow("a chain that ends on a file that stays")
+            << QStringList{u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s}
+            << QStringList{u"b"_s, u"b"_s, u"a"_s} << QStringList()
+            << QList<RenameOutcome>{no, no, no}
+            << QList<NameCheck>{taken, NameCheck::Unchanged, taken}
+            << QStringList{u"a.jpg=a.jpg"_s, u"b.jpg=b.jpg"_s, u"c.jpg=c.jpg"_s};
     }
-    void takenNamesFailAndTheRestGoOn()
+    void rowsInConflictAreNotAttempted()
     {
         QFETCH(QStringList, files);
         QFETCH(QStringList, names);
         QFETCH(QStringList, present);
         QFETCH(QList<RenameOutcome>, states);
+        QFETCH(QList<NameCheck>, checks);
         QFETCH(QStringList, tree);
         Listing l;
         for (qsizetype i = 0; i < files.size(); ++i)
@@ -157,9 +183,12 @@ private Q_SLOTS:
             else
                 l.dir.createFile(taken, "present");
         }
-        QCOMPARE(l.run().missingKeys, QStringList());
+        const ExecutionReport report = l.run();
+        QCOMPARE(report.missingKeys, QStringList());
         QCOMPARE(l.states(), states);
+        QCOMPARE(l.checks(), checks);
         QCOMPARE(treeOf(l.dir.path()), sorted(tree));
+        QCOMPARE(report.renamed.size(), states.count(RenameOutcome::Succeeded));
     }
 
     // The user is told that some files could not be renamed; the log says which, and why,
@@ -227,6 +256,8 @@ private Q_SLOTS:
         QCOMPARE(l.run().missingKeys, QStringList());
         QCOMPARE(l.states(), (QList<RenameOutcome>{RenameOutcome::Failed, RenameOutcome::Failed,
                                                    RenameOutcome::Succeeded}));
+        // The system's reason stays with the row that met it.
+        QCOMPARE(l.details.value(u"b.txt"_s).failureError, EPERM);
         QCOMPARE(l.content(u"b.txt"_s), u"b.txt"_s);
         QCOMPARE(l.content(u"a.txt"_s), u"c.txt"_s);
         const QString aside = l.details.value(u"a.txt"_s).sourceURL.toLocalFile();
@@ -251,12 +282,13 @@ private Q_SLOTS:
         QLoggingCategory::setFilterRules(QString());
 
         QCOMPARE(report.missingKeys, QStringList{u"c.jpg"_s});
-        // Names and places are checked for every row before any file moves.
+        // Places are found for every row, then the names checked, before any file moves.
         QCOMPARE(g_logged.size(), 3);
-        QVERIFY2(g_logged[0].contains(u"cannot be named ../y.jpg"_s), qPrintable(g_logged[0]));
-        QVERIFY2(g_logged[1].contains(l.dir.filePath(u"c.jpg"_s)), qPrintable(g_logged[1]));
-        QVERIFY2(g_logged[2].contains(l.dir.filePath(u"a.jpg"_s)) &&
-                     g_logged[2].endsWith(QString::fromLocal8Bit(std::strerror(EEXIST))),
+        QVERIFY2(g_logged[0].contains(l.dir.filePath(u"c.jpg"_s)), qPrintable(g_logged[0]));
+        QVERIFY2(g_logged[1].contains(l.dir.filePath(u"a.jpg"_s)) &&
+                     g_logged[1].contains(u"x.jpg there: a file that stays has that name"_s),
+                 qPrintable(g_logged[1]));
+        QVERIFY2(g_logged[2].contains(u"cannot be named ../y.jpg there: it holds a slash"_s),
                  qPrintable(g_logged[2]));
     }
 
@@ -267,36 +299,45 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("newName");
         QTest::addColumn<QString>("moved"); // "" when the name is refused
-        const QString e = u"\u00e9"_s;      // two bytes in UTF-8
-        QTest::newRow("slash") << u"notes"_s << u"sub/x"_s << QString();
-        QTest::newRow("dot") << u"notes"_s << u"."_s << QString();
-        QTest::newRow("dot dot") << u"notes"_s << u".."_s << QString();
-        QTest::newRow("NUL") << u"notes"_s << u"a"_s + QChar(u'\0') + u"b"_s << QString();
-        QTest::newRow("lone surrogate") << u"notes"_s << QString(QChar(0xd800)) << QString();
-        QTest::newRow("256 bytes") << u"a.jpg"_s << QString(252, u'n') << QString();
-        QTest::newRow("256 bytes, two a letter") << u"notes"_s << e.repeated(128) << QString();
+        QTest::addColumn<NameCheck>("check");
+        const QString e = u"\u00e9"_s; // two bytes in UTF-8
+        const NameCheck ok = NameCheck::Free;
+        QTest::newRow("slash") << u"notes"_s << u"sub/x"_s << QString() << NameCheck::Slash;
+        QTest::newRow("dot") << u"notes"_s << u"."_s << QString() << NameCheck::DotOrDotDot;
+        QTest::newRow("dot dot") << u"notes"_s << u".."_s << QString() << NameCheck::DotOrDotDot;
+        QTest::newRow("NUL") << u"notes"_s << u"a"_s + QChar(u'\0') + u"b"_s << QString()
+                             << NameCheck::Nul;
+        QTest::newRow("lone surrogate")
+            << u"notes"_s << QString(QChar(0xd800)) << QString() << NameCheck::NotEncodable;
+        QTest::newRow("256 bytes")
+            << u"a.jpg"_s << QString(252, u'n') << QString() << NameCheck::TooLong;
+        QTest::newRow("256 bytes, two a letter")
+            << u"notes"_s << e.repeated(128) << QString() << NameCheck::TooLong;
         QTest::newRow("255 bytes")
-            << u"a.jpg"_s << QString(251, u'n') << QString(251, u'n') + u".jpg"_s;
+            << u"a.jpg"_s << QString(251, u'n') << QString(251, u'n') + u".jpg"_s << ok;
         QTest::newRow("255 bytes, two a letter")
-            << u"notes"_s << e.repeated(127) + u"n"_s << e.repeated(127) + u"n"_s;
-        QTest::newRow("no extension, a dot typed") << u"notes"_s << u"v1.2"_s << u"v1.2"_s;
-        QTest::newRow("a dot on a file with an extension") << u"a.jpg"_s << u"."_s << u"..jpg"_s;
+            << u"notes"_s << e.repeated(127) + u"n"_s << e.repeated(127) + u"n"_s << ok;
+        QTest::newRow("no extension, a dot typed") << u"notes"_s << u"v1.2"_s << u"v1.2"_s << ok;
+        QTest::newRow("a dot on a file with an extension")
+            << u"a.jpg"_s << u"."_s << u"..jpg"_s << ok;
         QTest::newRow("hidden source keeps its suffix")
-            << u".profile"_s << u"p"_s << u"p.profile"_s;
-        QTest::newRow("dot at the end") << u"draft."_s << u"final"_s << u"final"_s;
+            << u".profile"_s << u"p"_s << u"p.profile"_s << ok;
+        QTest::newRow("dot at the end") << u"draft."_s << u"final"_s << u"final"_s << ok;
     }
     void targetNames()
     {
         QFETCH(QString, file);
         QFETCH(QString, newName);
         QFETCH(QString, moved);
+        QFETCH(NameCheck, check);
         Listing l;
         l.dir.createDir(u"sub"_s);
         l.list(file, newName);
         const QStringList before = treeOf(l.dir.path());
         QCOMPARE(l.run().missingKeys, QStringList());
+        QCOMPARE(l.checks(), QList<NameCheck>{check});
         if (moved.isEmpty()) {
-            QCOMPARE(l.states(), QList<RenameOutcome>{RenameOutcome::Failed});
+            QCOMPARE(l.states(), QList<RenameOutcome>{RenameOutcome::NotTried});
             QCOMPARE(treeOf(l.dir.path()), before);
         } else {
             QCOMPARE(l.states(), QList<RenameOutcome>{RenameOutcome::Succeeded});

@@ -201,6 +201,31 @@ private Q_SLOTS:
         QVERIFY(BRRenameFormat().addTextToFileNames(u"-x"_s, details, {fileName}, where));
         QCOMPARE(details.value(fileName).destinationURL, expected);
     }
+
+    // The whole name a file takes: what the rule or the user gave, then the extension the
+    // file keeps, the text after the last dot of its own name.
+    void wholeNewName_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("newName");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("typed with a dot")
+            << u"/p/photo.png"_s << u"notes.txt"_s << u"notes.txt.png"_s;
+        QTest::newRow("last piece only") << u"/p/archive.tar.gz"_s << u"x"_s << u"x.gz"_s;
+        QTest::newRow("none") << u"/p/README"_s << u"Read me"_s << u"Read me"_s;
+        QTest::newRow("hidden") << u"/p/.profile"_s << u"p"_s << u"p.profile"_s;
+        QTest::newRow("dot at the end") << u"/p/draft."_s << u"final"_s << u"final"_s;
+        QTest::newRow("folder given with a slash")
+            << u"/p/photos.2019/"_s << u"Trip1"_s << u"Trip1.2019"_s;
+        QTest::newRow("dot in the folder only") << u"/p.d/notes"_s << u"n"_s << u"n"_s;
+    }
+    void wholeNewName()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, newName);
+        QFETCH(QString, expected);
+        QCOMPARE(BRRenameFormat::targetFileName(QUrl::fromLocalFile(path), newName), expected);
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_RenameFormat)

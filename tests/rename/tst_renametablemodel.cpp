@@ -45,6 +45,8 @@ private Q_SLOTS:
         QCOMPARE(plain.data(RenameTableModel::DestinationRole).toString(), QString());
         QVERIFY(!plain.data(RenameTableModel::EditedRole).toBool());
         QCOMPARE(plain.data(Qt::DecorationRole), QVariant());
+        QCOMPARE(plain.data(RenameTableModel::SuffixRole).toString(), u".txt"_s);
+        QCOMPARE(folder.data(RenameTableModel::SuffixRole).toString(), QString());
         // A folder named with a trailing slash is named by its last component.
         QCOMPARE(RenameTableModel::lastPathComponent(QUrl(u"file:///tmp/Holiday/"_s)),
                  u"Holiday"_s);
@@ -74,8 +76,9 @@ private Q_SLOTS:
         list.setFullNameRule(u"Trip"_s, u"1"_s, NamePlacement::AfterName);
         QTRY_VERIFY(!list.ruleRunPending());
         list.setHandName(1, u"Bee"_s);
-        QCOMPARE(spoken(0), u"a.txt | New name: Trip1"_s);
-        QCOMPARE(spoken(1), u"b.txt | New name, typed: Bee"_s);
+        // The whole name the file will have, its extension included.
+        QCOMPARE(spoken(0), u"a.txt | New name: Trip1.txt"_s);
+        QCOMPARE(spoken(1), u"b.txt | New name, typed: Bee.txt"_s);
         list.clearRule();
         QCOMPARE(spoken(2), u"c.txt | No new name"_s);
     }

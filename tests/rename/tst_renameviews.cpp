@@ -8,6 +8,7 @@
 #include "BRRenameCompleteViewDoneButton.h"
 #include "BRRenameTableView.h"
 #include "BRRenameTableViewCell.h"
+#include "ExtensionSuffixLabel.h"
 #include "LookColors.h"
 #include "RecordingRenameDelegate.h"
 #include "RenameList.h"
@@ -134,6 +135,7 @@ private Q_SLOTS:
 
     void liveCellFollowsTheMouse();
     void liveCellFieldShowsTheNameByItsKind();
+    void theExtensionFollowsTheNameAsItIsTyped();
     void liveCellControlsReportTheirRow();
     void liveCellFollowsItsKeyThroughReloads();
     void clickOpensPopoverAndWheelClosesIt();
@@ -324,6 +326,36 @@ void TestRenameViews::liveCellFieldShowsTheNameByItsKind()
     QVERIFY(!list.hover(0)->destFileNameLabel()->isReadOnly());
 }
 
+// The whole name the file will have: the typed base, then the kept extension in a lighter
+// tone right after it, never under the text, and nothing after a row without a name.
+void TestRenameViews::theExtensionFollowsTheNameAsItIsTyped()
+{
+    List list;
+    BRRenameTableViewCell *cell = list.hover(0);
+    QLineEdit *field = cell->destFileNameLabel();
+    ExtensionSuffixLabel *suffix = cell->extensionSuffix();
+    QCOMPARE(suffix->suffix(), u".txt"_s);
+    QVERIFY(suffix->isVisible());
+    const int start = suffix->x();
+    field->setText(u"Trip1 and more"_s);
+    const int grown = field->fontMetrics().horizontalAdvance(u"Trip1 and more"_s) -
+                      field->fontMetrics().horizontalAdvance(u"Trip1"_s);
+    QCOMPARE(suffix->x(), start + grown);
+    // A name longer than the field scrolls under its text margin; the suffix stays whole.
+    field->setText(QString(400, u'n'));
+    QVERIFY(suffix->geometry().right() < field->width());
+    QVERIFY(field->textMargins().right() >= suffix->width());
+
+    // A row without a name shows the placeholder alone.
+    BRRenameTableViewCell *unnamed = list.hover(2);
+    QVERIFY(!unnamed->extensionSuffix()->isVisible());
+    QCOMPARE(unnamed->destFileNameLabel()->textMargins().right(), 0);
+
+    // The painted row says the same as the live one.
+    const QModelIndex first = list.table.model()->index(0, 0);
+    QCOMPARE(first.data(RenameTableModel::SuffixRole).toString(), u".txt"_s);
+}
+
 void TestRenameViews::liveCellControlsReportTheirRow()
 {
     List list;
@@ -446,9 +478,12 @@ void TestRenameViews::popoverCommitsOnlyAnEditableName()
     QTest::keyClick(field, Qt::Key_Return);
     QVERIFY(delegate.calls.isEmpty());
 
-    popover.setEditableName(u"Trip4"_s);
+    // A name typed with a dot of its own still gets the file's extension after it.
+    popover.setEditableName(u"Trip4"_s, u".jpg"_s);
     QVERIFY(!field->isReadOnly());
     QCOMPARE(field->text(), u"Trip4"_s);
+    QCOMPARE(popover.extensionSuffix()->suffix(), u".jpg"_s);
+    QVERIFY(popover.extensionSuffix()->isVisible());
     QTest::keyClick(field, Qt::Key_End);
     QTest::keyClicks(field, u"b"_s);
     QTest::keyClick(field, Qt::Key_Return);

@@ -10,6 +10,7 @@
 #include "BRDuplicateTableView.h"
 #include "BRIntroViewController.h"
 #include "BRMainViewController.h"
+#include "BRRenameCompleteView.h"
 #include "BRRenameTableView.h"
 #include "BRRenameViewController.h"
 #include "BRSelectHomeFolderViewController.h"
@@ -235,6 +236,9 @@ private Q_SLOTS:
         if (screen == u"complete"_s) {
             window.main.renameImageButton()->click();
             window.rename->setViewsHiddenState(true, true, true, false);
+            // After a partial failure: Show failed files and Undo Rename are up too.
+            window.rename->renameCompleteStatusView()->setFailedCount(1);
+            window.rename->renameCompleteStatusView()->setUndoAvailable(true);
             Q_EMIT window.rename->notificationCenter()->renameComplete({u"a.jpg"_s});
         }
         if (screen == u"editor"_s) {

@@ -1,8 +1,9 @@
 // Takes screenshots of Quillmere's screens as a new user meets them: the intro, the home
 // folder choice, the main view on both tabs, About, the duplicate finder from choosing
 // a folder to the detail of a group, and the batch renamer from the drop target to the
-// end of a rename. It drives the real window with scripted dialogs and
-// grabs each screen, so no display or window manager is needed.
+// end of a rename, its undo, names in conflict, and a partial failure tried again. It
+// drives the real window with scripted dialogs and grabs each screen, so no display or
+// window manager is needed.
 //
 // Usage: quillmere-screenshots [OUTPUT_FOLDER]   (default: screenshots)
 
@@ -55,6 +56,11 @@
 
 #include <algorithm>
 #include <cstdio>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -275,6 +281,33 @@ public:
 private:
     QString m_root;
 };
+
+// Marks a file immutable (chattr +i) or lifts the mark, so that a rename of it fails as on a
+// locked file; root can set it on ext4, btrfs and xfs. False when it cannot be set.
+bool setImmutable(const QString &path, bool immutable)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    int flags = 0;
+    bool done = ::ioctl(descriptor, FS_IOC_GETFLAGS, &flags) == 0;
+    if (done) {
+        flags = immutable ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
+        done = ::ioctl(descriptor, FS_IOC_SETFLAGS, &flags) == 0;
+    }
+    ::close(descriptor);
+    return done;
+}
+
+// Rests the mouse on a row of the rename list, which then shows its live controls.
+void hoverRenameRow(BRRenameTableView *table, int row)
+{
+    const QPoint onRow = table->rectForRow(row).center();
+    QMouseEvent hover(QEvent::MouseMove, table->viewport()->mapFrom(table, onRow),
+                      table->mapToGlobal(onRow), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(table->viewport(), &hover);
+}
 
 // Holds back what the scan thread hands to the main thread: its reports come as calls
 // queued on the application object.
@@ -535,10 +568,7 @@ int main(int argc, char *argv[])
     settle();
     // The mouse rests on the first row, which shows its controls.
     BRRenameTableView *table = renamer->renameTableView();
-    const QPoint onFirstRow = table->rectForRow(0).center();
-    QMouseEvent hover(QEvent::MouseMove, table->viewport()->mapFrom(table, onFirstRow),
-                      table->mapToGlobal(onFirstRow), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(table->viewport(), &hover);
+    hoverRenameRow(table, 0);
     settle();
     ok &= save(window, output, u"12-rename-list"_s);
 
@@ -550,5 +580,63 @@ int main(int argc, char *argv[])
     window.findChild<QPushButton *>(u"renameButton"_s)->click();
     settle(800);
     ok &= save(window, output, u"14-rename-complete"_s);
+
+    // Undo Rename: every file of the walk has its old name again.
+    window.findChild<QPushButton *>(u"undoButton"_s)->click();
+    settle(800);
+    ok &= save(window, output, u"15-rename-undone"_s);
+    window.findChild<QPushButton *>(u"doneButton"_s)->click();
+    settle();
+
+    // A second shoot, where two of the names the rule gives are taken in the folder and one
+    // row is typed to its neighbour's name: four rows are marked before the press.
+    const SampleTree harbour(scratch.filePath(u"Harbour"_s));
+    QList<QUrl> harbourPhotos;
+    for (int i = 0; i < 8; ++i) {
+        const QString name = u"IMG_%1.jpg"_s.arg(2301 + i);
+        harbour.writePhoto(name, {640, 480}, static_cast<quint32>(500 + i), i == 6);
+        harbourPhotos.append(QUrl::fromLocalFile(harbour.path(name)));
+    }
+    harbour.writePhoto(u"Harbour 3.jpg"_s, {640, 480}, 900);
+    harbour.writePhoto(u"Harbour 6.jpg"_s, {640, 480}, 901);
+    Q_EMIT renamer->notificationCenter()->dragAndDropComplete(harbourPhotos);
+    settle();
+    typeInto(renamer->findChild<QLineEdit *>(u"newNameTextField"_s), u"Harbour "_s);
+    settle();
+    renamer->showPopOver(4);
+    settle();
+    if (RowAnchoredPopover *popover = renamer->popover()) {
+        auto *field = popover->findChild<QLineEdit *>(u"renameFileNewNameTextField"_s);
+        field->selectAll();
+        typeInto(field, u"Harbour 4"_s);
+        pressReturn(field);
+    }
+    renamer->closePopOver();
+    settle();
+    hoverRenameRow(table, 2);
+    settle();
+    ok &= save(window, output, u"16-rename-conflicts"_s);
+    // The popover of a marked row says why in words.
+    renamer->showPopOver(2);
+    settle(600);
+    ok &= renamer->popover() != nullptr && save(window, output, u"17-rename-conflict-popover"_s);
+    renamer->closePopOver();
+
+    // The press renames the free rows; one of them is locked and fails.
+    const QString locked = harbour.path(u"IMG_2302.jpg"_s);
+    if (setImmutable(locked, true)) {
+        window.findChild<QPushButton *>(u"renameButton"_s)->click();
+        settle(800);
+        ok &= save(window, output, u"18-rename-partial-failure"_s);
+        window.findChild<QPushButton *>(u"showFailedButton"_s)->click();
+        settle(600);
+        hoverRenameRow(table, 0);
+        settle();
+        ok &= save(window, output, u"19-rename-failed-files"_s);
+        setImmutable(locked, false);
+    } else {
+        std::printf("cannot lock %s (needs root on ext4): no shots of a partial failure\n",
+                    qPrintable(locked));
+    }
     return ok ? 0 : 1;
 }
