@@ -14,17 +14,19 @@ constexpr int usageError = 2;
 
 const char usage[] =
     "Usage: quillmere-scan [--json] PATH\n"
+    "       quillmere-scan --help | --version\n"
     "\n"
     "Finds duplicate files and folders below PATH in one pass.\n"
     "Files above 64 KiB of equal size and type are compared by fingerprint;\n"
     "folders by total size, entry count and the fingerprints of their first and last files.\n"
     "Hidden files and folders, and every path containing \".app\", are skipped.\n"
     "\n"
-    "  --json   print every report of the scan as it happens, one JSON object per line\n"
-    "  --help   show this text\n"
+    "  --json      print every report of the scan as it happens, one JSON object per line\n"
+    "  -h, --help  show this text\n"
+    "  --version   print the version\n"
     "\n"
-    "Exit status: 0 when the scan ran, 2 when PATH is not a readable folder or the\n"
-    "arguments are wrong.\n";
+    "Exit status: 0 when the scan ran, 1 when the output could not be written,\n"
+    "2 when PATH is not a readable folder or the arguments are wrong.\n";
 
 int fail(const QString &message)
 {
@@ -46,6 +48,10 @@ int main(int argc, char *argv[])
         const QString &argument = arguments.at(i);
         if (argument == QStringLiteral("--help") || argument == QStringLiteral("-h")) {
             std::fputs(usage, stdout);
+            return 0;
+        }
+        if (argument == QStringLiteral("--version")) {
+            std::fputs("quillmere-scan " QUILLMERE_VERSION "\n", stdout);
             return 0;
         }
         if (argument == QStringLiteral("--json")) {
