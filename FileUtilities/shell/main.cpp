@@ -4,6 +4,7 @@
 #include "BRRenameViewController.h"
 #include "DesktopWorkspace.h"
 #include "FocusRing.h"
+#include "FreedesktopNotifier.h"
 #include "QtAlertPresenter.h"
 #include "QtOpenPanel.h"
 #include "RenameList.h"
@@ -64,6 +65,7 @@ int main(int argc, char *argv[])
     QtAlertPresenter alerts;
     QtOpenPanel openPanel;
     DesktopWorkspace workspace;
+    FreedesktopNotifier notifier(QApplication::desktopFileName());
     AppDelegate appDelegate(alerts, settings);
     appDelegate.applicationDidFinishLaunching();
     // The application takes ownership of its style.
@@ -74,7 +76,7 @@ int main(int argc, char *argv[])
         {appDelegate, alerts, openPanel, workspace, settings,
          [&] {
              return new BRDuplicateFilesMainViewController(
-                 {alerts, openPanel, workspace, &appDelegate});
+                 {alerts, openPanel, workspace, &appDelegate, &notifier});
          },
          [&] {
              auto *renamer = new BRRenameViewController({alerts, openPanel});
