@@ -317,8 +317,8 @@ void BRRenameViewController::setViewsHiddenState(bool containerViewHidden,
 
 void BRRenameViewController::browseAction()
 {
-    const QList<QUrl> urls =
-        m_openPanel.runModal(BRDragAndDropView::filesToRenameRequest(tr("Add files to rename")));
+    const QList<QUrl> urls = m_openPanel.runModal(
+        BRDragAndDropView::filesToRenameRequest(tr("Add files to rename"), tr("Add")));
     if (!urls.isEmpty())
         m_list->add(urls);
 }

@@ -593,6 +593,7 @@ void BRDuplicateFilesViewController::keepOneCopy(KeepOnePlan::Rule rule, const Q
             return;
         OpenPanelRequest request;
         request.message = QStringLiteral("Choose the folder whose copies to keep");
+        request.prompt = QStringLiteral("Keep Copies Here");
         request.canChooseFiles = false;
         request.canChooseDirectories = true;
         const QList<QUrl> chosen = m_openPanel->runModal(request);
