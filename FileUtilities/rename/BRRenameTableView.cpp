@@ -281,7 +281,7 @@ void BRRenameTableView::fillCell(LiveCell &live, int row)
     cell->setDestinationName(destination.isValid() ? std::optional<QString>(destination.toString())
                                                    : std::nullopt,
                              index.data(RenameTableModel::EditedRole).toBool());
-    cell->setThumbnail(m_rowDelegate->thumbnailFor(live.path));
+    cell->setThumbnail(m_rowDelegate->thumbnailFor(live.path, devicePixelRatioF()));
 }
 
 void BRRenameTableView::releaseCell(LiveCell &live)
@@ -320,6 +320,6 @@ void BRRenameTableView::thumbnailReady(const QString &path)
     viewport()->update();
     for (const LiveCell &live : m_cells) {
         if (live.cell && !live.key.isEmpty() && live.path == path)
-            live.cell->setThumbnail(m_rowDelegate->thumbnailFor(path));
+            live.cell->setThumbnail(m_rowDelegate->thumbnailFor(path, devicePixelRatioF()));
     }
 }

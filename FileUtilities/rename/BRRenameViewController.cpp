@@ -383,8 +383,17 @@ void BRRenameViewController::showPopOver(int row)
 
     // The popover opens at once; its picture follows.
     QPointer<BRFilePreviewPopoverViewController> target(preview);
+    // As many pixels as the screen shows, so a dense screen gets a sharp picture.
+    const qreal ratio = devicePixelRatioF();
     runOnWorker(
-        this, [path] { return BRObjectClass().thumbnailForPath(path, 260, 260); },
+        this,
+        [path, ratio] {
+            std::optional<QImage> image =
+                BRObjectClass().thumbnailForPath(path, 260 * ratio, 260 * ratio);
+            if (image)
+                image->setDevicePixelRatio(ratio);
+            return image;
+        },
         [target](const std::optional<QImage> &image) {
             if (target && image)
                 target->setImage(*image);
