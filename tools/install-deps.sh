@@ -9,6 +9,7 @@ packages=(
     shared-mime-info hicolor-icon-theme adwaita-icon-theme
     xvfb xauth
     desktop-file-utils appstream
+    dpkg-dev file lintian
 )
 
 missing=()

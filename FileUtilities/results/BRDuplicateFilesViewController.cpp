@@ -235,6 +235,12 @@ void BRDuplicateFilesViewController::connectResults()
             &BRDuplicateFilesViewController::scanFoundNothing);
 }
 
+void BRDuplicateFilesViewController::setDesktopNotifier(DesktopNotifier *notifier,
+                                                        ScanAttention::Clock now)
+{
+    m_attention = notifier ? std::make_unique<ScanAttention>(*notifier, std::move(now)) : nullptr;
+}
+
 void BRDuplicateFilesViewController::setDuplicateMainViewDelegate(
     BRDuplicateFilesMainViewDelegate *delegate)
 {
@@ -293,8 +299,11 @@ void BRDuplicateFilesViewController::startScanProcess(const std::optional<QUrl> 
     if (!folderUrl || folderUrl->path().isEmpty())
         return;
     setBottomBarControls();
-    m_results->startScan(folderUrl->toLocalFile().isEmpty() ? folderUrl->path()
-                                                            : folderUrl->toLocalFile());
+    const QString folder =
+        folderUrl->toLocalFile().isEmpty() ? folderUrl->path() : folderUrl->toLocalFile();
+    m_results->startScan(folder);
+    if (m_attention)
+        m_attention->scanStarted(folder);
     m_progressTimer->start(m_timings.progressPollMs);
     pollScanProgress();
 }
@@ -314,6 +323,24 @@ void BRDuplicateFilesViewController::scanEnded(int groupsHeld)
     m_progressTimer->stop();
     if (m_cancelViewDelegate)
         m_cancelViewDelegate->stopAnimateProgress();
+    if (m_attention)
+        m_attention->scanEnded();
+}
+
+void BRDuplicateFilesViewController::announceScanEnd(qint64 duplicatesFound)
+{
+    if (!m_attention)
+        return;
+    QPointer<QWidget> shown = window();
+    m_attention->scanFinished(duplicatesFound, shown->isActiveWindow(), [shown] {
+        if (!shown)
+            return;
+        qCInfo(resultsLog) << "the scan's notification was clicked: the window comes back";
+        shown->setWindowState(shown->windowState() & ~Qt::WindowMinimized);
+        shown->show();
+        shown->raise();
+        shown->activateWindow();
+    });
 }
 
 void BRDuplicateFilesViewController::scanCompleted(qint64 duplicatesFound)
@@ -322,6 +349,8 @@ void BRDuplicateFilesViewController::scanCompleted(qint64 duplicatesFound)
         m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
     if (m_sortAndCancelTabViewDelegate)
         m_sortAndCancelTabViewDelegate->selectTabAtIndex(0);
+    // Before the alert, which waits for the user, and while the window is still as it was.
+    announceScanEnd(duplicatesFound);
     showAlert(QStringLiteral("Duplicate files scan complete."),
               QString::number(duplicatesFound) + QStringLiteral(" duplicate files found."));
 }
@@ -330,6 +359,7 @@ void BRDuplicateFilesViewController::scanFoundNothing()
 {
     if (m_duplicateMainViewDelegate)
         m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
+    announceScanEnd(0);
     showDuplicateStatusView();
 }
 
@@ -339,6 +369,8 @@ void BRDuplicateFilesViewController::pollScanProgress()
     if (!progress || !m_cancelViewDelegate)
         return;
     m_cancelViewDelegate->updateScanProgress(progress->entriesScanned, progress->currentFolder);
+    if (m_attention)
+        m_attention->scanProgressed(progress->currentFolder);
 }
 
 void BRDuplicateFilesViewController::showDuplicateStatusView()
@@ -561,6 +593,7 @@ void BRDuplicateFilesViewController::keepOneCopy(KeepOnePlan::Rule rule, const Q
             return;
         OpenPanelRequest request;
         request.message = QStringLiteral("Choose the folder whose copies to keep");
+        request.prompt = QStringLiteral("Keep Copies Here");
         request.canChooseFiles = false;
         request.canChooseDirectories = true;
         const QList<QUrl> chosen = m_openPanel->runModal(request);

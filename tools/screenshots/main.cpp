@@ -5,7 +5,10 @@
 // drives the real window with scripted dialogs and grabs each screen, so no display or
 // window manager is needed.
 //
-// Usage: quillmere-screenshots [OUTPUT_FOLDER]   (default: screenshots)
+// Usage: quillmere-screenshots [--scale FACTOR] [--dark] [OUTPUT_FOLDER]
+//   --scale 2   every screen at twice the pixels, as on a screen of high density
+//   --dark      Qt's Fusion style with a dark palette, as under a dark desktop theme
+//   OUTPUT_FOLDER defaults to "screenshots"
 
 #include "AppDelegate.h"
 #include "BRAboutWindowController.h"
@@ -43,6 +46,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPalette>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QScreen>
@@ -111,6 +115,67 @@ void pressKey(QWidget *widget, Qt::Key key)
 void pressReturn(QWidget *field)
 {
     pressKey(field, Qt::Key_Return);
+}
+
+struct Options
+{
+    QByteArray scale = "1";
+    bool dark = false;
+    QString output = QStringLiteral("screenshots");
+    QString error = {};
+};
+
+Options readOptions(int argc, char *argv[])
+{
+    Options options;
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray argument(argv[i]);
+        if (argument == "--dark") {
+            options.dark = true;
+        } else if (argument == "--scale" && i + 1 < argc) {
+            options.scale = argv[++i];
+            bool isNumber = false;
+            const double factor = options.scale.toDouble(&isNumber);
+            if (!isNumber || factor < 1 || factor > 4)
+                options.error = u"the scale must be a number from 1 to 4, not "_s +
+                                QString::fromLocal8Bit(options.scale);
+        } else if (argument.startsWith('-')) {
+            options.error = u"unknown option "_s + QString::fromLocal8Bit(argument);
+        } else {
+            options.output = QString::fromLocal8Bit(argument);
+        }
+    }
+    return options;
+}
+
+// A dark desktop as Qt shows it without a theme of its own: Fusion with a dark palette.
+QPalette darkPalette()
+{
+    QPalette palette;
+    const QColor window(45, 45, 48), base(30, 30, 32), text(230, 230, 230);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::ToolTipBase, base);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::Button, window);
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::BrightText, Qt::red);
+    palette.setColor(QPalette::Link, QColor(90, 170, 255));
+    palette.setColor(QPalette::Highlight, QColor(60, 120, 200));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Light, QColor(70, 70, 74));
+    palette.setColor(QPalette::Midlight, QColor(60, 60, 64));
+    palette.setColor(QPalette::Mid, QColor(40, 40, 42));
+    palette.setColor(QPalette::Dark, QColor(20, 20, 22));
+    palette.setColor(QPalette::Shadow, Qt::black);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(120, 120, 120));
+    return palette;
 }
 
 // A screen larger than the window, so a popover beside a row has room as on a desktop.
@@ -327,9 +392,20 @@ protected:
 
 int main(int argc, char *argv[])
 {
+    const Options options = readOptions(argc, argv);
+    if (!options.error.isEmpty()) {
+        std::fprintf(stderr, "quillmere-screenshots: %s\n", qPrintable(options.error));
+        return 2;
+    }
     QTemporaryDir scratch;
     configureOffscreenScreen(scratch);
+    // As a desktop scaled to 200% would: every window and image at twice the pixels.
+    qputenv("QT_SCALE_FACTOR", options.scale);
     QApplication application(argc, argv);
+    if (options.dark) {
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        QApplication::setPalette(darkPalette());
+    }
     // Offscreen, no desktop names an icon theme and the system's icon folders are not
     // searched; the shots show the icons of a desktop session instead of blanks.
     if (QIcon::themeName().isEmpty()) {
@@ -339,8 +415,7 @@ int main(int argc, char *argv[])
         QIcon::setThemeSearchPaths(paths);
         QIcon::setThemeName(u"Adwaita"_s);
     }
-    const QString output =
-        argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("screenshots");
+    const QString &output = options.output;
     if (!QDir().mkpath(output)) {
         std::fprintf(stderr, "quillmere-screenshots: cannot make %s\n", qPrintable(output));
         return 2;
