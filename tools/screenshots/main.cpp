@@ -32,6 +32,8 @@
 #include "ScriptedOpenPanel.h"
 #include "ScriptedWorkspace.h"
 
+#include "Translations.h"
+
 #include <QApplication>
 #include <QDate>
 #include <QDir>
@@ -339,8 +341,20 @@ int main(int argc, char *argv[])
         QIcon::setThemeSearchPaths(paths);
         QIcon::setThemeName(u"Adwaita"_s);
     }
-    const QString output =
-        argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("screenshots");
+    // "--language de" or "--language fr" draws every screen in that language.
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    const qsizetype languageAt = arguments.indexOf(u"--language"_s);
+    if (languageAt >= 0) {
+        const QString language = arguments.value(languageAt + 1);
+        if (language.isEmpty() || !Translations::install(application, QLocale(language))) {
+            std::fprintf(stderr, "quillmere-screenshots: no translation for \"%s\"\n",
+                         qPrintable(language));
+            return 2;
+        }
+        QLocale::setDefault(QLocale(language));
+        arguments.remove(languageAt, 2);
+    }
+    const QString output = arguments.value(0, QStringLiteral("screenshots"));
     if (!QDir().mkpath(output)) {
         std::fprintf(stderr, "quillmere-screenshots: cannot make %s\n", qPrintable(output));
         return 2;
