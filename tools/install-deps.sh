@@ -10,6 +10,7 @@ packages=(
     xvfb xauth
     desktop-file-utils appstream
     qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools qt6-translations-l10n
+    dpkg-dev file lintian
 )
 
 missing=()

@@ -50,6 +50,7 @@ void BRSelectHomeFolderViewController::selectHomeFolderAction()
     OpenPanelRequest request;
     request.directory = home;
     request.message = tr("Choose a Home Folder");
+    request.prompt = tr("Choose");
     request.canChooseFiles = false;
     request.canChooseDirectories = true;
     request.canCreateDirectories = false;
@@ -58,6 +59,9 @@ void BRSelectHomeFolderViewController::selectHomeFolderAction()
     request.shouldEnable = [home](const QString &path) {
         return panelShouldEnablePath(path, home);
     };
+    request.refusal = tr("\u201C%1\u201D is not inside your home folder, %2. Choose your home "
+                         "folder or a folder inside it.")
+                          .arg(QStringLiteral("%1"), home);
     const QList<QUrl> chosen = m_panel.runModal(request);
     if (chosen.isEmpty())
         return;

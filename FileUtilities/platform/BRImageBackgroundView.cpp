@@ -1,12 +1,12 @@
 #include "BRImageBackgroundView.h"
 
-#include "LookColors.h"
+#include "Look.h"
 
 #include <QPainter>
 
 BRImageBackgroundView::BRImageBackgroundView(const QString &imageName, Tone imageTone,
                                              QWidget *parent)
-    : QWidget(parent), m_image(QStringLiteral(":/images/") + imageName + QStringLiteral(".svg"))
+    : QWidget(parent), m_image(Look::imagePath(imageName))
 {
     if (imageTone == Tone::Dark && m_image.isValid()) {
         QPalette lightText = palette();

@@ -1,5 +1,6 @@
 #include "Look.h"
 
+#include <QFile>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QWidget>
@@ -49,6 +50,14 @@ QLabel *label(QWidget *parent, int pixelSize, QFont::Weight weight, Color color,
     auto *label = new QLabel(text, parent);
     setTextStyle(label, pixelSize, weight, color);
     return label;
+}
+
+QString imagePath(const QString &name)
+{
+    const QString prefix = QStringLiteral(":/images/") + name;
+    if (tone() == Tone::Dark && QFile::exists(prefix + QStringLiteral("-dark.svg")))
+        return prefix + QStringLiteral("-dark.svg");
+    return prefix + QStringLiteral(".svg");
 }
 
 } // namespace Look

@@ -29,4 +29,8 @@ void setTextColor(QWidget *widget, Color color,
 QLabel *label(QWidget *parent, int pixelSize, QFont::Weight weight, Color color,
               const QString &text = QString());
 
+// ":/images/NAME.svg", or its "NAME-dark.svg" where the tone is dark and one is drawn:
+// pictures made for light grounds have a twin for dark ones.
+QString imagePath(const QString &name);
+
 } // namespace Look

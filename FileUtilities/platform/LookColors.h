@@ -91,6 +91,20 @@ enum class Color
 };
 Q_ENUM_NS(Color)
 
+// Light on a light desktop, dark under a dark theme: the program follows the tone of the
+// application's palette, which the desktop's theme (or the user) sets before any window.
+enum class Tone
+{
+    Light,
+    Dark,
+};
+Q_ENUM_NS(Tone)
+
+// Dark when the palette's window colour is; light without a GUI application.
+Tone tone();
+// The role in the application's tone. Main thread only: it reads the application palette.
 QColor color(Color role);
+// The role in a given tone; any thread.
+QColor color(Color role, Tone tone);
 
 } // namespace Look

@@ -10,7 +10,10 @@
 struct OpenPanelRequest
 {
     QString directory;
+    // What to choose, as the panel's title.
     QString message;
+    // The accept button's text where the platform lets it be set; empty: the platform's.
+    QString prompt = {};
     bool canChooseFiles = true;
     bool canChooseDirectories = false;
     bool allowsMultipleSelection = false;
@@ -18,6 +21,9 @@ struct OpenPanelRequest
     bool showsHiddenFiles = false;
     // Which paths may be chosen; others are shown but cannot be. Unset: all.
     std::function<bool(const QString &path)> shouldEnable;
+    // A sentence for a path chosen that may not be (%1 is the path), as the desktop's own
+    // dialog cannot grey anything out; the panel then opens again. Empty: dropped unsaid.
+    QString refusal = {};
 };
 
 // Lets the user choose files or folders; an empty list means the panel was cancelled.

@@ -4,6 +4,8 @@
 
 #include <QFileDialog>
 #include <QFileSystemModel>
+#include <QListView>
+#include <QMessageBox>
 #include <QSortFilterProxyModel>
 
 namespace {
@@ -33,18 +35,21 @@ private:
 
 QtOpenPanel::QtOpenPanel(QWidget *window) : m_window(window) {}
 
-QList<QUrl> QtOpenPanel::runModal(const OpenPanelRequest &request)
+bool QtOpenPanel::needsFilesAndFolders(const OpenPanelRequest &request)
 {
-    FilesAndFoldersDialog dialog(m_window, request.message, request.directory);
-    // Qt's own dialog: the desktop's native one cannot disable entries.
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    return request.canChooseFiles && request.canChooseDirectories;
+}
+
+void QtOpenPanel::configure(QFileDialog &dialog, const OpenPanelRequest &request)
+{
+    dialog.setWindowTitle(request.message);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFoldersChoosable(request.canChooseDirectories && request.canChooseFiles);
-    if (request.canChooseDirectories && request.canChooseFiles) {
+    if (!request.prompt.isEmpty())
+        dialog.setLabelText(QFileDialog::Accept, request.prompt);
+    if (needsFilesAndFolders(request)) {
         // Files and folders both: "Open" takes the folders highlighted as well.
-        dialog.setFileMode(QFileDialog::ExistingFiles);
-        if (!request.allowsMultipleSelection)
-            dialog.setFileMode(QFileDialog::ExistingFile);
+        dialog.setFileMode(request.allowsMultipleSelection ? QFileDialog::ExistingFiles
+                                                           : QFileDialog::ExistingFile);
     } else if (request.canChooseDirectories) {
         dialog.setFileMode(QFileDialog::Directory);
         dialog.setOption(QFileDialog::ShowDirsOnly);
@@ -56,16 +61,50 @@ QList<QUrl> QtOpenPanel::runModal(const OpenPanelRequest &request)
     QDir::Filters filters = dialog.filter();
     filters.setFlag(QDir::Hidden, request.showsHiddenFiles);
     dialog.setFilter(filters);
-    if (request.shouldEnable)
-        dialog.setProxyModel(new EnabledPathsModel(request.shouldEnable)); // the dialog owns it
-    if (dialog.exec() != QDialog::Accepted)
-        return {};
+}
 
-    // A path typed by hand passes no greyed-out entry, so it is checked here as well.
-    QList<QUrl> chosen;
-    for (const QString &path : dialog.selectedFiles()) {
+QtOpenPanel::Screened QtOpenPanel::screen(const QStringList &paths, const OpenPanelRequest &request)
+{
+    Screened screened;
+    for (const QString &path : paths) {
         if (!request.shouldEnable || request.shouldEnable(path))
-            chosen.append(QUrl::fromLocalFile(path));
+            screened.chosen.append(QUrl::fromLocalFile(path));
+        else
+            screened.refused.append(path);
     }
-    return chosen;
+    return screened;
+}
+
+QStringList QtOpenPanel::runDialog(const OpenPanelRequest &request)
+{
+    if (needsFilesAndFolders(request)) {
+        FilesAndFoldersDialog dialog(m_window, request.message, request.directory);
+        dialog.setFoldersChoosable(true);
+        configure(dialog, request);
+        if (request.shouldEnable)
+            dialog.setProxyModel(new EnabledPathsModel(request.shouldEnable)); // it owns it
+        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+    }
+    // The option left alone, Qt shows the platform's dialog if its theme has one, and its
+    // own otherwise.
+    QFileDialog dialog(m_window, request.message, request.directory);
+    configure(dialog, request);
+    // Qt builds its own dialog's widgets at once where the platform has no dialog; there
+    // what may not be chosen is greyed out. A desktop's dialog has no list of ours, and
+    // the choice is screened afterwards instead.
+    if (request.shouldEnable && dialog.findChild<QListView *>(QStringLiteral("listView")))
+        dialog.setProxyModel(new EnabledPathsModel(request.shouldEnable));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}
+
+QList<QUrl> QtOpenPanel::runModal(const OpenPanelRequest &request)
+{
+    for (;;) {
+        const Screened screened = screen(runDialog(request), request);
+        // A path typed by hand passes no greyed-out entry, so everything is screened.
+        if (screened.refused.isEmpty() || request.refusal.isEmpty())
+            return screened.chosen;
+        QMessageBox::warning(m_window, request.message,
+                             request.refusal.arg(screened.refused.first()));
+    }
 }

@@ -7,6 +7,13 @@ Thumbnail::Thumbnail(QString path, QSize size, std::shared_ptr<ThumbnailCache> c
     : m_path(std::move(path)), m_size(size), m_cache(std::move(cache))
 {}
 
+Thumbnail Thumbnail::atPixelRatio(qreal ratio) const
+{
+    if (ratio <= 1.0)
+        return *this;
+    return Thumbnail(m_path, (QSizeF(m_size) * ratio).toSize(), m_cache);
+}
+
 QImage Thumbnail::image() const
 {
     if (isNull())

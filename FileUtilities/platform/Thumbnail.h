@@ -20,6 +20,9 @@ public:
     bool isNull() const { return m_path.isEmpty(); }
     QString path() const { return m_path; }
     QSize size() const { return m_size; }
+    // The same picture with `ratio` times the pixels, for a screen of that density; it
+    // shares the cache, where each size is kept apart.
+    Thumbnail atPixelRatio(qreal ratio) const;
 
     // Makes or fetches the picture; a null handle gives a null image. Any thread.
     QImage image() const;

@@ -112,9 +112,10 @@ QImage ThumbnailRenderer::genericIcon(bool folder, QSize size)
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal w = size.width();
     const qreal h = size.height();
-    painter.setPen(QPen(Look::color(Look::Color::IconStroke), qMax(1.0, w / 40)));
+    painter.setPen(
+        QPen(Look::color(Look::Color::IconStroke, Look::Tone::Light), qMax(1.0, w / 40)));
     if (folder) {
-        painter.setBrush(Look::color(Look::Color::FolderIconFill));
+        painter.setBrush(Look::color(Look::Color::FolderIconFill, Look::Tone::Light));
         QPainterPath shape;
         shape.moveTo(w * 0.08, h * 0.25);
         shape.lineTo(w * 0.40, h * 0.25);
@@ -125,7 +126,7 @@ QImage ThumbnailRenderer::genericIcon(bool folder, QSize size)
         shape.closeSubpath();
         painter.drawPath(shape);
     } else {
-        painter.setBrush(Look::color(Look::Color::IconPageFill));
+        painter.setBrush(Look::color(Look::Color::IconPageFill, Look::Tone::Light));
         QPainterPath page;
         page.moveTo(w * 0.22, h * 0.08);
         page.lineTo(w * 0.62, h * 0.08);

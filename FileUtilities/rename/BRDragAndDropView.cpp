@@ -61,10 +61,12 @@ BRDragAndDropView::BRDragAndDropView(RenameNotificationCenter *center, OpenPanel
     connect(m_browseButton, &QPushButton::clicked, this, &BRDragAndDropView::browseAction);
 }
 
-OpenPanelRequest BRDragAndDropView::filesToRenameRequest(const QString &message)
+OpenPanelRequest BRDragAndDropView::filesToRenameRequest(const QString &message,
+                                                         const QString &prompt)
 {
     OpenPanelRequest request;
     request.message = message;
+    request.prompt = prompt;
     request.canChooseFiles = true;
     request.canChooseDirectories = true;
     request.canCreateDirectories = true;
@@ -76,7 +78,8 @@ OpenPanelRequest BRDragAndDropView::filesToRenameRequest(const QString &message)
 void BRDragAndDropView::browseAction()
 {
     const QList<QUrl> urls = m_openPanel.runModal(filesToRenameRequest(
-        QCoreApplication::translate("BRDragAndDropView", "Choose files to rename")));
+        QCoreApplication::translate("BRDragAndDropView", "Choose files to rename"),
+        QCoreApplication::translate("BRDragAndDropView", "Choose")));
     if (!urls.isEmpty())
         announce(urls);
 }

@@ -29,7 +29,8 @@ public:
     QPushButton *browseButton() const { return m_browseButton; }
 
     // The open panel of both ways to choose files for renaming, with its message.
-    static OpenPanelRequest filesToRenameRequest(const QString &message);
+    // `prompt` is the accept button's text.
+    static OpenPanelRequest filesToRenameRequest(const QString &message, const QString &prompt);
 
 public Q_SLOTS:
     void browseAction();

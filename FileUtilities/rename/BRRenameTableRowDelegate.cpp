@@ -15,12 +15,13 @@ BRRenameTableRowDelegate::BRRenameTableRowDelegate(ThumbnailLoader &thumbnails,
       m_thumbnailCache(std::move(thumbnailCache)), m_popoverIcon(RenameRowStyle::popoverIcon())
 {}
 
-QImage BRRenameTableRowDelegate::thumbnailFor(const QString &path) const
+QImage BRRenameTableRowDelegate::thumbnailFor(const QString &path, qreal ratio) const
 {
     if (path.isEmpty())
         return {};
     const int side = RenameRowStyle::thumbnailSide;
-    return m_thumbnails.imageFor(Thumbnail(path, QSize(side, side), m_thumbnailCache));
+    return m_thumbnails.imageFor(
+        Thumbnail(path, QSize(side, side), m_thumbnailCache).atPixelRatio(ratio));
 }
 
 QSize BRRenameTableRowDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
@@ -36,10 +37,11 @@ void BRRenameTableRowDelegate::paint(QPainter *painter, const QStyleOptionViewIt
     const QRect row = option.rect;
     const RenameRowStyle::Geometry parts = RenameRowStyle::geometry(row);
     painter->save();
+    const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
     RenameRowStyle::paintGround(painter, row);
     RenameRowStyle::paintThumbnail(
         painter, parts.thumbnail,
-        thumbnailFor(index.data(RenameTableModel::SourcePathRole).toString()));
+        thumbnailFor(index.data(RenameTableModel::SourcePathRole).toString(), ratio));
 
     painter->setFont(RenameRowStyle::sourceNameFont());
     painter->setPen(RenameRowStyle::sourceNameColor());
@@ -58,7 +60,6 @@ void BRRenameTableRowDelegate::paint(QPainter *painter, const QStyleOptionViewIt
     RenameRowStyle::paintMark(painter, parts.mark,
                               static_cast<RowMark>(index.data(RenameTableModel::MarkRole).toInt()));
 
-    const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
     const QSize iconSize(20, 20);
     QRect iconRect(QPoint(0, 0), iconSize);
     iconRect.moveCenter(parts.popoverControl.center());

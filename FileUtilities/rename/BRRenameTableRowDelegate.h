@@ -21,8 +21,9 @@ public:
                              std::shared_ptr<ThumbnailCache> thumbnailCache,
                              QObject *parent = nullptr);
 
-    // The row's picture if it is made; else a null image, and it is on its way.
-    QImage thumbnailFor(const QString &path) const;
+    // The row's picture, `ratio` times the pixels of its frame for a dense screen, if it
+    // is made; else a null image, and it is on its way.
+    QImage thumbnailFor(const QString &path, qreal ratio) const;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;

@@ -283,7 +283,7 @@ void BRRenameTableView::fillCell(LiveCell &live, int row)
                                                    : std::nullopt,
                              index.data(RenameTableModel::SuffixRole).toString(),
                              index.data(RenameTableModel::EditedRole).toBool());
-    cell->setThumbnail(m_rowDelegate->thumbnailFor(live.path));
+    cell->setThumbnail(m_rowDelegate->thumbnailFor(live.path, devicePixelRatioF()));
     cell->setMark(static_cast<RowMark>(index.data(RenameTableModel::MarkRole).toInt()),
                   index.data(RenameTableModel::MarkTextRole).toString());
 }
@@ -324,6 +324,6 @@ void BRRenameTableView::thumbnailReady(const QString &path)
     viewport()->update();
     for (const LiveCell &live : m_cells) {
         if (live.cell && !live.key.isEmpty() && live.path == path)
-            live.cell->setThumbnail(m_rowDelegate->thumbnailFor(path));
+            live.cell->setThumbnail(m_rowDelegate->thumbnailFor(path, devicePixelRatioF()));
     }
 }

@@ -386,8 +386,8 @@ void BRRenameViewController::setViewsHiddenState(bool containerViewHidden,
 
 void BRRenameViewController::browseAction()
 {
-    const QList<QUrl> urls =
-        m_openPanel.runModal(BRDragAndDropView::filesToRenameRequest(tr("Add files to rename")));
+    const QList<QUrl> urls = m_openPanel.runModal(
+        BRDragAndDropView::filesToRenameRequest(tr("Add files to rename"), tr("Add")));
     if (!urls.isEmpty())
         m_list->add(urls);
 }
@@ -458,8 +458,17 @@ void BRRenameViewController::showPopOver(int row)
 
     // The popover opens at once; its picture follows.
     QPointer<BRFilePreviewPopoverViewController> target(preview);
+    // As many pixels as the screen shows, so a dense screen gets a sharp picture.
+    const qreal ratio = devicePixelRatioF();
     runOnWorker(
-        this, [path] { return BRObjectClass().thumbnailForPath(path, 260, 260); },
+        this,
+        [path, ratio] {
+            std::optional<QImage> image =
+                BRObjectClass().thumbnailForPath(path, 260 * ratio, 260 * ratio);
+            if (image)
+                image->setDevicePixelRatio(ratio);
+            return image;
+        },
         [target](const std::optional<QImage> &image) {
             if (target && image)
                 target->setImage(*image);

@@ -17,6 +17,7 @@ BRDuplicateFilesMainViewController::BRDuplicateFilesMainViewController(const Ser
       m_statusScreen(new BRDuplicateScanStatusViewController)
 {
     setObjectName(QStringLiteral("BRDuplicateFilesMainViewController"));
+    m_resultsScreen->setDesktopNotifier(services.notifier);
     // The tab controller takes the three screens as its children.
     auto *tabs =
         new BRDuplicateTabViewController(m_startScreen, m_resultsScreen, m_statusScreen, this);

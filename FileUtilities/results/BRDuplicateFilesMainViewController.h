@@ -14,6 +14,7 @@ class BRDuplicateScanStartViewController;
 class BRDuplicateScanStatusViewController;
 class BRDuplicateTabViewController;
 class BRDuplicateTabViewDelegate;
+class DesktopNotifier;
 class OpenPanel;
 class Workspace;
 
@@ -31,6 +32,8 @@ public:
         OpenPanel &openPanel;
         Workspace &workspace;
         ApplicationStatus *appDelegate;
+        // Progress and the end of a long scan outside the window; none: not shown.
+        DesktopNotifier *notifier = {};
     };
 
     explicit BRDuplicateFilesMainViewController(const Services &services,

@@ -245,6 +245,12 @@ void BRDuplicateFilesViewController::connectResults()
             &BRDuplicateFilesViewController::scanFoundNothing);
 }
 
+void BRDuplicateFilesViewController::setDesktopNotifier(DesktopNotifier *notifier,
+                                                        ScanAttention::Clock now)
+{
+    m_attention = notifier ? std::make_unique<ScanAttention>(*notifier, std::move(now)) : nullptr;
+}
+
 void BRDuplicateFilesViewController::setDuplicateMainViewDelegate(
     BRDuplicateFilesMainViewDelegate *delegate)
 {
@@ -303,8 +309,11 @@ void BRDuplicateFilesViewController::startScanProcess(const std::optional<QUrl> 
     if (!folderUrl || folderUrl->path().isEmpty())
         return;
     setBottomBarControls();
-    m_results->startScan(folderUrl->toLocalFile().isEmpty() ? folderUrl->path()
-                                                            : folderUrl->toLocalFile());
+    const QString folder =
+        folderUrl->toLocalFile().isEmpty() ? folderUrl->path() : folderUrl->toLocalFile();
+    m_results->startScan(folder);
+    if (m_attention)
+        m_attention->scanStarted(folder);
     m_progressTimer->start(m_timings.progressPollMs);
     pollScanProgress();
 }
@@ -324,6 +333,24 @@ void BRDuplicateFilesViewController::scanEnded(int groupsHeld)
     m_progressTimer->stop();
     if (m_cancelViewDelegate)
         m_cancelViewDelegate->stopAnimateProgress();
+    if (m_attention)
+        m_attention->scanEnded();
+}
+
+void BRDuplicateFilesViewController::announceScanEnd(qint64 duplicatesFound)
+{
+    if (!m_attention)
+        return;
+    QPointer<QWidget> shown = window();
+    m_attention->scanFinished(duplicatesFound, shown->isActiveWindow(), [shown] {
+        if (!shown)
+            return;
+        qCInfo(resultsLog) << "the scan's notification was clicked: the window comes back";
+        shown->setWindowState(shown->windowState() & ~Qt::WindowMinimized);
+        shown->show();
+        shown->raise();
+        shown->activateWindow();
+    });
 }
 
 void BRDuplicateFilesViewController::scanCompleted(qint64 duplicatesFound)
@@ -332,6 +359,8 @@ void BRDuplicateFilesViewController::scanCompleted(qint64 duplicatesFound)
         m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
     if (m_sortAndCancelTabViewDelegate)
         m_sortAndCancelTabViewDelegate->selectTabAtIndex(0);
+    // Before the alert, which waits for the user, and while the window is still as it was.
+    announceScanEnd(duplicatesFound);
     showAlert(QCoreApplication::translate("BRDuplicateFilesViewController",
                                           "Duplicate files scan complete."),
               QCoreApplication::translate("BRDuplicateFilesViewController",
@@ -343,6 +372,7 @@ void BRDuplicateFilesViewController::scanFoundNothing()
 {
     if (m_duplicateMainViewDelegate)
         m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
+    announceScanEnd(0);
     showDuplicateStatusView();
 }
 
@@ -352,6 +382,8 @@ void BRDuplicateFilesViewController::pollScanProgress()
     if (!progress || !m_cancelViewDelegate)
         return;
     m_cancelViewDelegate->updateScanProgress(progress->entriesScanned, progress->currentFolder);
+    if (m_attention)
+        m_attention->scanProgressed(progress->currentFolder);
 }
 
 void BRDuplicateFilesViewController::showDuplicateStatusView()
@@ -584,6 +616,8 @@ void BRDuplicateFilesViewController::keepOneCopy(KeepOnePlan::Rule rule, const Q
         OpenPanelRequest request;
         request.message = QCoreApplication::translate("BRDuplicateFilesViewController",
                                                       "Choose the folder whose copies to keep");
+        request.prompt =
+            QCoreApplication::translate("BRDuplicateFilesViewController", "Keep Copies Here");
         request.canChooseFiles = false;
         request.canChooseDirectories = true;
         const QList<QUrl> chosen = m_openPanel->runModal(request);

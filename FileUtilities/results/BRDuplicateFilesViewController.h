@@ -4,6 +4,7 @@
 #include "CopyRemoval.h"
 #include "KeepOnePlan.h"
 #include "KeepOneRun.h"
+#include "ScanAttention.h"
 #include "WindowDelegate.h"
 
 #include <QPointer>
@@ -12,6 +13,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class AlertPresenter;
@@ -25,6 +27,7 @@ class BRDuplicateSortAndCancelTabViewController;
 class BRDuplicateSortViewController;
 class BRDuplicateSortViewDelegate;
 class BRDuplicateTableView;
+class DesktopNotifier;
 class DuplicateResults;
 class DuplicateTableModel;
 class QLabel;
@@ -67,6 +70,9 @@ public:
     ~BRDuplicateFilesViewController() override;
 
     void setTimings(const Timings &timings) { m_timings = timings; }
+    // Where a scan shows its progress outside the window and says that a long one ended;
+    // none: nowhere. Tests give their own clock.
+    void setDesktopNotifier(DesktopNotifier *notifier, ScanAttention::Clock now = {});
     void setDuplicateMainViewDelegate(BRDuplicateFilesMainViewDelegate *delegate);
 
     // The scan's reports and the screens' requests.
@@ -125,6 +131,8 @@ private:
     void scanCompleted(qint64 duplicatesFound);
     void scanFoundNothing();
     void pollScanProgress();
+    // Tells the desktop that a scan ended, if it took long and the window is elsewhere.
+    void announceScanEnd(qint64 duplicatesFound);
     // The copy went behind the program's back: it leaves its group, and the user is told.
     void removeFileAtPath(const QString &path, const QString &key);
     void removalFinished(const CopyRemoval::Result &result);
@@ -155,6 +163,7 @@ private:
     ThumbnailLoader *m_thumbnails;
     QTimer *m_progressTimer;
     Timings m_timings;
+    std::unique_ptr<ScanAttention> m_attention;
 
     QLineEdit *m_searchField = nullptr;
     BRDuplicateTableView *m_duplicateTableView = nullptr;

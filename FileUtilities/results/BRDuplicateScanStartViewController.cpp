@@ -126,6 +126,7 @@ void BRDuplicateScanStartViewController::selectFolderAction()
     request.directory = m_selectedUrl ? m_selectedUrl->toLocalFile() : QString();
     request.message =
         tr("Choose a folder to scan", "Open panel title to select folder to scan duplicate files");
+    request.prompt = tr("Choose");
     request.canChooseFiles = false;
     request.canChooseDirectories = true;
     request.canCreateDirectories = false;

@@ -329,9 +329,7 @@ void BRDuplicateSortViewController::applyLook(const QString &key, bool selected)
     } else if (const auto images = imagesForKey(key)) {
         QToolButton *button = imageButtonForKey(key);
         button->setChecked(selected);
-        const QString path = QStringLiteral(":/images/") +
-                             (selected ? images->selected : images->unselected) +
-                             QStringLiteral(".svg");
+        const QString path = Look::imagePath(selected ? images->selected : images->unselected);
         // A missing image leaves the button's image as it was.
         if (QFile::exists(path))
             button->setIcon(QIcon(path));

@@ -109,7 +109,9 @@ void BRDuplicateTableViewCell::paintGroup(QPainter *painter, const QRect &rect,
     // The picture, framed; a soft square stands in until it is made.
     const QRect thumbRect(rect.left() + 24, rect.top() + (rect.height() - thumbnailSide) / 2,
                           thumbnailSide, thumbnailSide);
-    const QImage image = m_thumbnails.imageFor(record.thumbNail);
+    // As many pixels as the screen shows in the frame, so a dense screen gets a sharp one.
+    const qreal density = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+    const QImage image = m_thumbnails.imageFor(record.thumbNail.atPixelRatio(density));
     QPainterPath frame;
     frame.addRoundedRect(thumbRect, 6, 6);
     painter->fillPath(frame, Look::color(Look::Color::ThumbnailWell));
@@ -118,6 +120,7 @@ void BRDuplicateTableViewCell::paintGroup(QPainter *painter, const QRect &rect,
         QRect target(QPoint(0, 0), fitted);
         target.moveCenter(thumbRect.center());
         painter->setClipPath(frame);
+        painter->setRenderHint(QPainter::SmoothPixmapTransform);
         painter->drawImage(target, image);
         painter->setClipping(false);
     }

@@ -4,9 +4,11 @@
 #include "BRRenameViewController.h"
 #include "DesktopWorkspace.h"
 #include "FocusRing.h"
+#include "FreedesktopNotifier.h"
 #include "QtAlertPresenter.h"
 #include "QtOpenPanel.h"
 #include "RenameList.h"
+#include "ShellCommandLine.h"
 #include "ToolTipDelayStyle.h"
 #include "Translations.h"
 
@@ -14,9 +16,40 @@
 #include <QIcon>
 #include <QSettings>
 
+#include <cstdio>
+
+namespace {
+
+QStringList argumentsOf(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+int finish(const ShellCommandLine::Outcome &outcome)
+{
+    const bool error = outcome.request == ShellCommandLine::Request::Error;
+    std::fputs(outcome.text.constData(), error ? stderr : stdout);
+    return outcome.exitStatus;
+}
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
+    // Help and the version are answered before Qt looks for a display.
+    if (const ShellCommandLine::Outcome early =
+            ShellCommandLine::read(argumentsOf(argc, argv), QUILLMERE_VERSION);
+        early.request == ShellCommandLine::Request::Help ||
+        early.request == ShellCommandLine::Request::Version)
+        return finish(early);
     QApplication application(argc, argv);
+    if (const ShellCommandLine::Outcome rest =
+            ShellCommandLine::read(QCoreApplication::arguments().mid(1), QUILLMERE_VERSION);
+        rest.request == ShellCommandLine::Request::Error)
+        return finish(rest);
     QApplication::setOrganizationName(QStringLiteral("Brackenhale"));
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
@@ -35,6 +68,7 @@ int main(int argc, char *argv[])
     QtAlertPresenter alerts;
     QtOpenPanel openPanel;
     DesktopWorkspace workspace;
+    FreedesktopNotifier notifier(QApplication::desktopFileName());
     AppDelegate appDelegate(alerts, settings);
     appDelegate.applicationDidFinishLaunching();
     // The application takes ownership of its style.
@@ -45,7 +79,7 @@ int main(int argc, char *argv[])
         {appDelegate, alerts, openPanel, workspace, settings,
          [&] {
              return new BRDuplicateFilesMainViewController(
-                 {alerts, openPanel, workspace, &appDelegate});
+                 {alerts, openPanel, workspace, &appDelegate, &notifier});
          },
          [&] {
              auto *renamer = new BRRenameViewController({alerts, openPanel});

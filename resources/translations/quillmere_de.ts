@@ -86,6 +86,10 @@
         <source>Choose files to rename</source>
         <translation>Dateien zum Umbenennen auswählen</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>Auswählen</translation>
+    </message>
 </context>
 <context>
     <name>BRDuplicateCancelViewController</name>
@@ -366,6 +370,10 @@
         <source>%n files were moved to the Trash</source>
         <translation><numerusform>%n Datei wurde in den Papierkorb verschoben</numerusform><numerusform>%n Dateien wurden in den Papierkorb verschoben</numerusform></translation>
     </message>
+    <message>
+        <source>Keep Copies Here</source>
+        <translation>Kopien hier behalten</translation>
+    </message>
 </context>
 <context>
     <name>BRDuplicatePopOverTableView</name>
@@ -392,6 +400,10 @@
         <source>Choose a folder to scan</source>
         <comment>Open panel title to select folder to scan duplicate files</comment>
         <translation>Zu durchsuchenden Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Auswählen</translation>
     </message>
 </context>
 <context>
@@ -667,6 +679,10 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
         <source>%n more files could not go back either.</source>
         <translation><numerusform>%n weitere Datei konnte ebenfalls nicht zurück.</numerusform><numerusform>%n weitere Dateien konnten ebenfalls nicht zurück.</numerusform></translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
 </context>
 <context>
     <name>BRSelectHomeFolderViewController</name>
@@ -681,6 +697,14 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     <message>
         <source>Quillmere works inside the folder you choose here. You are asked once.</source>
         <translation>Quillmere arbeitet in dem Ordner, den Sie hier wählen. Sie werden nur einmal gefragt.</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>“%1” is not inside your home folder, %2. Choose your home folder or a folder inside it.</source>
+        <translation>„%1“ liegt nicht in Ihrem persönlichen Ordner %2. Wählen Sie Ihren persönlichen Ordner oder einen Ordner darin.</translation>
     </message>
 </context>
 <context>
@@ -1045,6 +1069,37 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     <message>
         <source>New name: %1</source>
         <translation>Neuer Name: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScanAttention</name>
+    <message>
+        <source>Duplicate files scan complete.</source>
+        <translation>Suche nach doppelten Dateien abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>No duplicate files found.</source>
+        <translation>Keine doppelten Dateien gefunden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n duplicate file found.</source>
+        <translation><numerusform>%n doppelte Datei gefunden.</numerusform><numerusform>%n doppelte Dateien gefunden.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n duplicate files found.</source>
+        <translation><numerusform>%n doppelte Datei gefunden.</numerusform><numerusform>%n doppelte Dateien gefunden.</numerusform></translation>
+    </message>
+    <message>
+        <source>No duplicate files found in %1.</source>
+        <translation>Keine doppelten Dateien in %1 gefunden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n duplicate file found in %1.</source>
+        <translation><numerusform>%n doppelte Datei in %1 gefunden.</numerusform><numerusform>%n doppelte Dateien in %1 gefunden.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n duplicate files found in %1.</source>
+        <translation><numerusform>%n doppelte Datei in %1 gefunden.</numerusform><numerusform>%n doppelte Dateien in %1 gefunden.</numerusform></translation>
     </message>
 </context>
 <context>

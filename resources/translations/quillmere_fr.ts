@@ -86,6 +86,10 @@
         <source>Choose files to rename</source>
         <translation>Choisir les fichiers à renommer</translation>
     </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choisir</translation>
+    </message>
 </context>
 <context>
     <name>BRDuplicateCancelViewController</name>
@@ -366,6 +370,10 @@
         <source>%n files were moved to the Trash</source>
         <translation><numerusform>%n fichier a été mis à la corbeille</numerusform><numerusform>%n fichiers ont été mis à la corbeille</numerusform></translation>
     </message>
+    <message>
+        <source>Keep Copies Here</source>
+        <translation>Garder les copies ici</translation>
+    </message>
 </context>
 <context>
     <name>BRDuplicatePopOverTableView</name>
@@ -392,6 +400,10 @@
         <source>Choose a folder to scan</source>
         <comment>Open panel title to select folder to scan duplicate files</comment>
         <translation>Choisir le dossier à analyser</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choisir</translation>
     </message>
 </context>
 <context>
@@ -667,6 +679,10 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
         <source>%n more files could not go back either.</source>
         <translation><numerusform>%n autre fichier n’a pas pu revenir non plus.</numerusform><numerusform>%n autres fichiers n’ont pas pu revenir non plus.</numerusform></translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
 </context>
 <context>
     <name>BRSelectHomeFolderViewController</name>
@@ -681,6 +697,14 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     <message>
         <source>Quillmere works inside the folder you choose here. You are asked once.</source>
         <translation>Quillmere travaille dans le dossier que vous choisissez ici. La question n’est posée qu’une fois.</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choisir</translation>
+    </message>
+    <message>
+        <source>“%1” is not inside your home folder, %2. Choose your home folder or a folder inside it.</source>
+        <translation>« %1 » n’est pas dans votre dossier personnel, %2. Choisissez votre dossier personnel ou un dossier qu’il contient.</translation>
     </message>
 </context>
 <context>
@@ -1045,6 +1069,37 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     <message>
         <source>New name: %1</source>
         <translation>Nouveau nom : %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScanAttention</name>
+    <message>
+        <source>Duplicate files scan complete.</source>
+        <translation>Recherche de fichiers en double terminée.</translation>
+    </message>
+    <message>
+        <source>No duplicate files found.</source>
+        <translation>Aucun fichier en double trouvé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n duplicate file found.</source>
+        <translation><numerusform>%n fichier en double trouvé.</numerusform><numerusform>%n fichiers en double trouvés.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n duplicate files found.</source>
+        <translation><numerusform>%n fichier en double trouvé.</numerusform><numerusform>%n fichiers en double trouvés.</numerusform></translation>
+    </message>
+    <message>
+        <source>No duplicate files found in %1.</source>
+        <translation>Aucun fichier en double trouvé dans %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n duplicate file found in %1.</source>
+        <translation><numerusform>%n fichier en double trouvé dans %1.</numerusform><numerusform>%n fichiers en double trouvés dans %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n duplicate files found in %1.</source>
+        <translation><numerusform>%n fichier en double trouvé dans %1.</numerusform><numerusform>%n fichiers en double trouvés dans %1.</numerusform></translation>
     </message>
 </context>
 <context>

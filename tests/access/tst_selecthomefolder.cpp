@@ -71,6 +71,11 @@ private Q_SLOTS:
         QVERIFY(request.canChooseDirectories && !request.canChooseFiles);
         QVERIFY(!request.allowsMultipleSelection && !request.canCreateDirectories);
         QVERIFY(request.shouldEnable(home) && !request.shouldEnable(QStringLiteral("/")));
+        // The desktop's dialog cannot grey out the rest; what is chosen there is refused.
+        QCOMPARE(request.prompt, QStringLiteral("Choose"));
+        QCOMPARE(request.refusal.arg(QStringLiteral("/etc")),
+                 QStringLiteral("\u201C/etc\u201D is not inside your home folder, ") + home +
+                     QStringLiteral(". Choose your home folder or a folder inside it."));
     }
 };
 

@@ -2,6 +2,8 @@
 #include "LookStyleSheets.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QLabel>
@@ -10,6 +12,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSvgRenderer>
 #include <QTest>
 #include <QToolButton>
 
@@ -17,6 +20,8 @@
 #include <memory>
 
 using Look::Color;
+
+Q_DECLARE_METATYPE(Look::Tone)
 
 namespace {
 
@@ -67,54 +72,105 @@ class tst_Look : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // Each text role on each ground the screens draw it on. Body text needs 4.5:1, text of
-    // 24 pixels or more 3:1. The rows marked short are the program's colours as they stand;
-    // they are kept here so the shortfall stays in sight, and fail once it is mended.
+    // Each text role on each ground the screens draw it on, in both tones. Body text needs
+    // 4.5:1, text of 24 pixels or more 3:1. The rows marked short are the program's light
+    // colours as they stand, and the brand's accent in both; they are kept here so the
+    // shortfall stays in sight, and fail once it is mended.
     void textStandsOffItsGround_data()
     {
+        QTest::addColumn<Look::Tone>("tone");
         QTest::addColumn<Color>("text");
         QTest::addColumn<Color>("ground");
         QTest::addColumn<double>("minimum");
         QTest::addColumn<bool>("knownShort");
-        const auto row = [](Color text, Color ground, double minimum, bool knownShort = false) {
-            QTest::addRow("%s on %s", qPrintable(nameOf(text)), qPrintable(nameOf(ground)))
-                << text << ground << minimum << knownShort;
-        };
-        for (const Color ground :
-             {Color::WindowGround, Color::HeaderGround, Color::BarGround, Color::PopoverGround,
-              Color::RenameRowHover, Color::DuplicateRowHover}) {
-            row(Color::PrimaryText, ground, 4.5);
-            row(Color::SecondaryText, ground, 4.5);
+        for (const Look::Tone tone : {Look::Tone::Light, Look::Tone::Dark}) {
+            const bool light = tone == Look::Tone::Light;
+            const auto row = [tone](Color text, Color ground, double minimum,
+                                    bool knownShort = false) {
+                QTest::addRow("%s: %s on %s", tone == Look::Tone::Light ? "light" : "dark",
+                              qPrintable(nameOf(text)), qPrintable(nameOf(ground)))
+                    << tone << text << ground << minimum << knownShort;
+            };
+            for (const Color ground :
+                 {Color::WindowGround, Color::HeaderGround, Color::BarGround, Color::PopoverGround,
+                  Color::RenameRowHover, Color::DuplicateRowHover, Color::ButtonBarGround,
+                  Color::FieldGround}) {
+                row(Color::PrimaryText, ground, 4.5);
+                row(Color::SecondaryText, ground, 4.5);
+            }
+            row(Color::NewNamePlaceholder, Color::WindowGround, 4.5);
+            row(Color::NewNamePlaceholder, Color::RenameRowHover, 4.5);
+            row(Color::ProblemMark, Color::WindowGround, 4.5);
+            row(Color::ProblemMark, Color::RenameRowHover, 4.5);
+            row(Color::PreviewText, Color::Paper, 4.5);
+            row(Color::PlainButtonText, Color::PlainButtonGround, 4.5);
+            row(Color::PlainButtonText, Color::PlainButtonPressed, 4.5);
+            row(Color::TabTitle, Color::TabBarGround, 4.5);
+            row(Color::TabTitleSelected, Color::TabBarGround, 4.5);
+            row(Color::TextOnColor, Color::DarkButtonGround, 4.5);
+            row(Color::LinkText, Color::WindowGround, 4.5, light);
+            row(Color::RuleName, Color::WindowGround, 4.5, light);
+            row(Color::RuleName, Color::RenameRowHover, 4.5, light);
+            row(Color::HandEditedName, Color::WindowGround, 4.5, light);
+            row(Color::Placeholder, Color::FieldGround, 4.5, light);
+            row(Color::TextOnColor, Color::Accent, 3.0, true);
+            row(Color::TextOnColor, Color::MoreAppsGround, 3.0, true);
         }
-        row(Color::NewNamePlaceholder, Color::WindowGround, 4.5);
-        row(Color::ProblemMark, Color::WindowGround, 4.5);
-        row(Color::ProblemMark, Color::RenameRowHover, 4.5);
-        row(Color::NewNamePlaceholder, Color::RenameRowHover, 4.5);
-        row(Color::PreviewText, Color::Paper, 4.5);
-        row(Color::PlainButtonText, Color::PlainButtonPressed, 4.5);
-        row(Color::TabTitle, Color::TabBarGround, 4.5);
-        row(Color::TabTitleSelected, Color::TabBarGround, 4.5);
-        row(Color::TextOnColor, Color::DarkButtonGround, 4.5);
-        row(Color::LinkText, Color::WindowGround, 4.5, true);
-        row(Color::RuleName, Color::WindowGround, 4.5, true);
-        row(Color::HandEditedName, Color::WindowGround, 4.5, true);
-        row(Color::Placeholder, Color::FieldGround, 4.5, true);
-        row(Color::TextOnColor, Color::Accent, 3.0, true);
-        row(Color::TextOnColor, Color::MoreAppsGround, 3.0, true);
     }
     void textStandsOffItsGround()
     {
+        QFETCH(Look::Tone, tone);
         QFETCH(Color, text);
         QFETCH(Color, ground);
         QFETCH(double, minimum);
         QFETCH(bool, knownShort);
         // Translucent grounds lie on the window; translucent text on its ground.
-        const QColor beneath = over(Look::color(ground), Look::color(Color::WindowGround));
-        const QColor shown = over(Look::color(text), beneath);
+        const QColor beneath =
+            over(Look::color(ground, tone), Look::color(Color::WindowGround, tone));
+        const QColor shown = over(Look::color(text, tone), beneath);
         const double ratio = contrast(shown, beneath);
         if (knownShort)
             QEXPECT_FAIL("", "a colour of the product's own, short of the mark", Continue);
         QVERIFY2(ratio >= minimum, qPrintable(QStringLiteral("%1:1").arg(ratio, 0, 'f', 2)));
+    }
+
+    // The tone follows the application's palette, as a desktop theme sets it, and with it
+    // every colour and the pictures drawn for dark grounds.
+    void theToneFollowsThePalette()
+    {
+        const QPalette before = QApplication::palette();
+        QCOMPARE(Look::tone(), Look::Tone::Light);
+        QCOMPARE(Look::color(Color::PrimaryText),
+                 Look::color(Color::PrimaryText, Look::Tone::Light));
+        QCOMPARE(Look::imagePath(QStringLiteral("bg")), QStringLiteral(":/images/bg.svg"));
+
+        QPalette dark = before;
+        dark.setColor(QPalette::Window, QColor(45, 45, 48));
+        dark.setColor(QPalette::WindowText, QColor(230, 230, 230));
+        QApplication::setPalette(dark);
+        QCOMPARE(Look::tone(), Look::Tone::Dark);
+        QCOMPARE(Look::color(Color::PrimaryText),
+                 Look::color(Color::PrimaryText, Look::Tone::Dark));
+        QCOMPARE(Look::imagePath(QStringLiteral("bg")), QStringLiteral(":/images/bg-dark.svg"));
+        // A picture without a dark twin stays as it is.
+        QCOMPARE(Look::imagePath(QStringLiteral("quillmere")),
+                 QStringLiteral(":/images/quillmere.svg"));
+        QApplication::setPalette(before);
+        QCOMPARE(Look::tone(), Look::Tone::Light);
+    }
+
+    // Every dark twin is drawn for a picture that exists, and both load.
+    void darkPicturesHaveLightTwins()
+    {
+        const QStringList twins =
+            QDir(QStringLiteral(":/images")).entryList({QStringLiteral("*-dark.svg")}, QDir::Files);
+        QVERIFY(twins.size() >= 6);
+        for (const QString &twin : twins) {
+            const QString light =
+                QString(twin).replace(QStringLiteral("-dark.svg"), QStringLiteral(".svg"));
+            QVERIFY2(QFile::exists(QStringLiteral(":/images/") + light), qPrintable(light));
+            QVERIFY2(QSvgRenderer(QStringLiteral(":/images/") + twin).isValid(), qPrintable(twin));
+        }
     }
 
     // A style sheet reads a colour back exactly as its role names it, alpha included.

@@ -2,6 +2,8 @@
 #include "FilesAndFoldersDialog.h"
 #include "RowAnchoredPopover.h"
 #include "TestDir.h"
+#include "Thumbnail.h"
+#include "ThumbnailCache.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -105,6 +107,35 @@ private Q_SLOTS:
             QCOMPARE(view.picture().size(), QSize(40, 30));
         if (QTest::currentDataTag() == QByteArray("text"))
             QCOMPARE(view.textLines().value(0), QStringLiteral("first line"));
+    }
+
+    void thumbnailsForDenseScreens_data()
+    {
+        QTest::addColumn<qreal>("ratio");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("plain screen") << qreal(1.0) << QSize(70, 70);
+        QTest::newRow("a smaller ratio never shrinks it") << qreal(0.5) << QSize(70, 70);
+        QTest::newRow("150%") << qreal(1.5) << QSize(105, 105);
+        QTest::newRow("200%") << qreal(2.0) << QSize(140, 140);
+    }
+    // A dense screen's thumbnail has the pixels the frame shows, and is kept apart from the
+    // plain one in the scan's shared cache.
+    void thumbnailsForDenseScreens()
+    {
+        QFETCH(qreal, ratio);
+        QFETCH(QSize, size);
+        QImage photo(800, 800, QImage::Format_RGB32);
+        photo.fill(Qt::darkGreen);
+        const QString path = m_dir.filePath(QStringLiteral("dense.png"));
+        QVERIFY(photo.save(path));
+        const auto cache = std::make_shared<ThumbnailCache>();
+        const Thumbnail plain(path, QSize(70, 70), cache);
+        const Thumbnail dense = plain.atPixelRatio(ratio);
+        QCOMPARE(dense.path(), path);
+        QCOMPARE(dense.size(), size);
+        QCOMPARE(dense.image().size(), size);
+        QCOMPARE(dense.cachedImage().size(), size);
+        QCOMPARE(plain.cachedImage().isNull(), size != QSize(70, 70));
     }
 
     void largePictureFitsKeepingItsShape()

@@ -12,6 +12,7 @@
 #include "ResultsFixtures.h"
 #include "ScanThreads.h"
 #include "ScriptedAlertPresenter.h"
+#include "ScriptedDesktopNotifier.h"
 #include "ScriptedOpenPanel.h"
 #include "ScriptedWorkspace.h"
 #include "TestDir.h"
@@ -385,6 +386,51 @@ private Q_SLOTS:
         QTRY_COMPARE(detail->numberOfRowsInTableView(), 2);
         QVERIFY(!detail->cellAt(1)->sameFileLabel()->isVisibleTo(detail));
         QCOMPARE(screen.label("totalDupesSizeLabel"), u"97.7 KiB"_s);
+    }
+
+    void longScansEndingUnseen_data()
+    {
+        QTest::addColumn<bool>("windowActive");
+        QTest::addColumn<bool>("copies");
+        QTest::newRow("copies, window elsewhere") << false << true;
+        QTest::newRow("nothing found, window elsewhere") << false << false;
+        QTest::newRow("copies, window looked at") << true << true;
+    }
+    // A real scan through the screen, its clock moved past the long mark: the launcher's
+    // progress comes and goes, and the notification, when due, comes before the alert and
+    // brings the window back.
+    void longScansEndingUnseen()
+    {
+        QFETCH(bool, windowActive);
+        QFETCH(bool, copies);
+        TestDir dir;
+        dir.createPatternFile(u"tree/clip.mov"_s, 70000, 1);
+        dir.createPatternFile(u"tree/clip copy.mov"_s, 70000, copies ? 1 : 2);
+        Screen screen;
+        ScriptedDesktopNotifier notifier;
+        qint64 now = 0;
+        screen.view.setDesktopNotifier(&notifier, [&now] { return now; });
+        if (windowActive) {
+            screen.main.show();
+            QApplication::setActiveWindow(&screen.main);
+            QVERIFY(QTest::qWaitForWindowActive(&screen.main));
+        }
+        screen.view.startScanProcess(QUrl::fromLocalFile(dir.filePath(u"tree"_s)));
+        now = ScanAttention::longScanMs + 1;
+        QTRY_VERIFY(screen.view.results().scanStatus());
+        settle();
+        QCOMPARE(notifier.progress.first(), std::optional<double>(0.0));
+        QCOMPARE(notifier.progress.last(), std::optional<double>());
+        if (windowActive) {
+            QVERIFY(notifier.notices.isEmpty());
+            return;
+        }
+        QCOMPARE(notifier.notices.size(), 1);
+        QCOMPARE(notifier.notices[0].body, copies ? u"2 duplicate files found in tree."_s
+                                                  : u"No duplicate files found in tree."_s);
+        QVERIFY(!screen.main.isVisible());
+        notifier.click();
+        QVERIFY(screen.main.isVisible());
     }
 
     void vanishedCopiesLeaveTheGroupAndTheLastLeadsToTheStatusScreen()

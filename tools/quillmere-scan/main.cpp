@@ -14,6 +14,7 @@ constexpr int usageError = 2;
 
 const char usage[] =
     "Usage: quillmere-scan [--json] [--single-thread] PATH\n"
+    "       quillmere-scan --help | --version\n"
     "\n"
     "Finds duplicate files and folders below PATH in one pass.\n"
     "Files above 64 KiB of equal size and type are compared by fingerprint;\n"
@@ -24,10 +25,11 @@ const char usage[] =
     "                   per line\n"
     "  --single-thread  read every folder and file on the scanning thread instead of\n"
     "                   ahead of it on a few more; slower, with the same reports\n"
-    "  --help           show this text\n"
+    "  -h, --help       show this text\n"
+    "  --version        print the version\n"
     "\n"
-    "Exit status: 0 when the scan ran, 2 when PATH is not a readable folder or the\n"
-    "arguments are wrong.\n";
+    "Exit status: 0 when the scan ran, 1 when the output could not be written,\n"
+    "2 when PATH is not a readable folder or the arguments are wrong.\n";
 
 int fail(const QString &message)
 {
@@ -50,6 +52,10 @@ int main(int argc, char *argv[])
         const QString &argument = arguments.at(i);
         if (argument == QStringLiteral("--help") || argument == QStringLiteral("-h")) {
             std::fputs(usage, stdout);
+            return 0;
+        }
+        if (argument == QStringLiteral("--version")) {
+            std::fputs("quillmere-scan " QUILLMERE_VERSION "\n", stdout);
             return 0;
         }
         if (argument == QStringLiteral("--json")) {

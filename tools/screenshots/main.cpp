@@ -5,7 +5,11 @@
 // drives the real window with scripted dialogs and grabs each screen, so no display or
 // window manager is needed.
 //
-// Usage: quillmere-screenshots [OUTPUT_FOLDER]   (default: screenshots)
+// Usage: quillmere-screenshots [--scale FACTOR] [--dark] [--language de|fr] [OUTPUT_FOLDER]
+//   --scale 2   every screen at twice the pixels, as on a screen of high density
+//   --dark      Qt's Fusion style with a dark palette, as under a dark desktop theme
+//   --language  the German or French translation
+//   OUTPUT_FOLDER defaults to "screenshots"
 
 #include "AppDelegate.h"
 #include "BRAboutWindowController.h"
@@ -45,6 +49,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPalette>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QScreen>
@@ -113,6 +118,70 @@ void pressKey(QWidget *widget, Qt::Key key)
 void pressReturn(QWidget *field)
 {
     pressKey(field, Qt::Key_Return);
+}
+
+struct Options
+{
+    QByteArray scale = "1";
+    bool dark = false;
+    QString language = {};
+    QString output = QStringLiteral("screenshots");
+    QString error = {};
+};
+
+Options readOptions(int argc, char *argv[])
+{
+    Options options;
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray argument(argv[i]);
+        if (argument == "--dark") {
+            options.dark = true;
+        } else if (argument == "--language" && i + 1 < argc) {
+            options.language = QString::fromLocal8Bit(argv[++i]);
+        } else if (argument == "--scale" && i + 1 < argc) {
+            options.scale = argv[++i];
+            bool isNumber = false;
+            const double factor = options.scale.toDouble(&isNumber);
+            if (!isNumber || factor < 1 || factor > 4)
+                options.error = u"the scale must be a number from 1 to 4, not "_s +
+                                QString::fromLocal8Bit(options.scale);
+        } else if (argument.startsWith('-')) {
+            options.error = u"unknown option "_s + QString::fromLocal8Bit(argument);
+        } else {
+            options.output = QString::fromLocal8Bit(argument);
+        }
+    }
+    return options;
+}
+
+// A dark desktop as Qt shows it without a theme of its own: Fusion with a dark palette.
+QPalette darkPalette()
+{
+    QPalette palette;
+    const QColor window(45, 45, 48), base(30, 30, 32), text(230, 230, 230);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::ToolTipBase, base);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::Button, window);
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::BrightText, Qt::red);
+    palette.setColor(QPalette::Link, QColor(90, 170, 255));
+    palette.setColor(QPalette::Highlight, QColor(60, 120, 200));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Light, QColor(70, 70, 74));
+    palette.setColor(QPalette::Midlight, QColor(60, 60, 64));
+    palette.setColor(QPalette::Mid, QColor(40, 40, 42));
+    palette.setColor(QPalette::Dark, QColor(20, 20, 22));
+    palette.setColor(QPalette::Shadow, Qt::black);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(120, 120, 120));
+    return palette;
 }
 
 // A screen larger than the window, so a popover beside a row has room as on a desktop.
@@ -329,9 +398,20 @@ protected:
 
 int main(int argc, char *argv[])
 {
+    const Options options = readOptions(argc, argv);
+    if (!options.error.isEmpty()) {
+        std::fprintf(stderr, "quillmere-screenshots: %s\n", qPrintable(options.error));
+        return 2;
+    }
     QTemporaryDir scratch;
     configureOffscreenScreen(scratch);
+    // As a desktop scaled to 200% would: every window and image at twice the pixels.
+    qputenv("QT_SCALE_FACTOR", options.scale);
     QApplication application(argc, argv);
+    if (options.dark) {
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        QApplication::setPalette(darkPalette());
+    }
     // Offscreen, no desktop names an icon theme and the system's icon folders are not
     // searched; the shots show the icons of a desktop session instead of blanks.
     if (QIcon::themeName().isEmpty()) {
@@ -341,20 +421,16 @@ int main(int argc, char *argv[])
         QIcon::setThemeSearchPaths(paths);
         QIcon::setThemeName(u"Adwaita"_s);
     }
-    // "--language de" or "--language fr" draws every screen in that language.
-    QStringList arguments = QCoreApplication::arguments().mid(1);
-    const qsizetype languageAt = arguments.indexOf(u"--language"_s);
-    if (languageAt >= 0) {
-        const QString language = arguments.value(languageAt + 1);
-        if (language.isEmpty() || !Translations::install(application, QLocale(language))) {
+    // Every screen in that language, as a German or French desktop shows it.
+    if (!options.language.isEmpty()) {
+        if (!Translations::install(application, QLocale(options.language))) {
             std::fprintf(stderr, "quillmere-screenshots: no translation for \"%s\"\n",
-                         qPrintable(language));
+                         qPrintable(options.language));
             return 2;
         }
-        QLocale::setDefault(QLocale(language));
-        arguments.remove(languageAt, 2);
+        QLocale::setDefault(QLocale(options.language));
     }
-    const QString output = arguments.value(0, QStringLiteral("screenshots"));
+    const QString &output = options.output;
     if (!QDir().mkpath(output)) {
         std::fprintf(stderr, "quillmere-screenshots: cannot make %s\n", qPrintable(output));
         return 2;
