@@ -9,6 +9,7 @@ packages=(
     shared-mime-info hicolor-icon-theme adwaita-icon-theme
     xvfb xauth
     desktop-file-utils appstream
+    qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools qt6-translations-l10n
     dpkg-dev file lintian
 )
 

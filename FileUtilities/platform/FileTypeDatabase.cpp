@@ -1,5 +1,6 @@
 #include "FileTypeDatabase.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QMimeType>
 #include <QStandardPaths>
@@ -76,5 +77,5 @@ FileTypeDatabase::FileType FileTypeDatabase::lookUp(const QString &fileName) con
 
 QString FileTypeDatabase::folderDescription()
 {
-    return QStringLiteral("Folder");
+    return QCoreApplication::translate("FileTypeDatabase", "Folder");
 }

@@ -16,6 +16,7 @@
 #include <cstring>
 #include <memory>
 
+#include <QCoreApplication>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
@@ -318,36 +319,54 @@ QString FreedesktopTrash::sentence(TrashFailure failure, const QString &itemName
     case TrashFailure::None:
         return QString();
     case TrashFailure::Missing:
-        return QStringLiteral("“%1” does not exist.").arg(itemName);
+        return QCoreApplication::translate("FreedesktopTrash", "“%1” does not exist.")
+            .arg(itemName);
     case TrashFailure::NotMovable:
-        return QStringLiteral("“%1” is the top folder of a drive and cannot be moved to the Trash.")
+        return QCoreApplication::translate(
+                   "FreedesktopTrash",
+                   "“%1” is the top folder of a drive and cannot be moved to the Trash.")
             .arg(itemName);
     case TrashFailure::AlreadyInTrash:
-        return QStringLiteral("“%1” is already in the Trash.").arg(itemName);
+        return QCoreApplication::translate("FreedesktopTrash", "“%1” is already in the Trash.")
+            .arg(itemName);
     case TrashFailure::HoldsTheTrash:
-        return QStringLiteral("“%1” holds the Trash, which cannot be moved into itself.")
+        return QCoreApplication::translate(
+                   "FreedesktopTrash", "“%1” holds the Trash, which cannot be moved into itself.")
             .arg(itemName);
     case TrashFailure::NoTrashOnDrive:
-        return QStringLiteral("There is no Trash on the drive that holds “%1”.").arg(itemName);
+        return QCoreApplication::translate("FreedesktopTrash",
+                                           "There is no Trash on the drive that holds “%1”.")
+            .arg(itemName);
     case TrashFailure::TrashFolderNotAFolder:
-        return QStringLiteral("The Trash cannot take “%1”: “%2” is not a folder.")
+        return QCoreApplication::translate("FreedesktopTrash",
+                                           "The Trash cannot take “%1”: “%2” is not a folder.")
             .arg(itemName, trashFolder);
     case TrashFailure::TrashFolderNotWritable:
-        return QStringLiteral("The Trash cannot take “%1”: its folder “%2” cannot be written to.")
+        return QCoreApplication::translate(
+                   "FreedesktopTrash",
+                   "The Trash cannot take “%1”: its folder “%2” cannot be written to.")
             .arg(itemName, trashFolder);
     case TrashFailure::DiskFull:
-        return QStringLiteral("There is no room in the Trash for “%1”: the disk is full.")
+        return QCoreApplication::translate(
+                   "FreedesktopTrash", "There is no room in the Trash for “%1”: the disk is full.")
             .arg(itemName);
     case TrashFailure::ReadOnly:
-        return QStringLiteral("“%1” is on a drive that is read-only.").arg(itemName);
+        return QCoreApplication::translate("FreedesktopTrash",
+                                           "“%1” is on a drive that is read-only.")
+            .arg(itemName);
     case TrashFailure::PermissionDenied:
-        return QStringLiteral("You do not have permission to move “%1” to the Trash.")
+        return QCoreApplication::translate("FreedesktopTrash",
+                                           "You do not have permission to move “%1” to the Trash.")
             .arg(itemName);
     case TrashFailure::TooManyNames:
-        return QStringLiteral("The Trash already holds too many items named “%1”.").arg(itemName);
+        return QCoreApplication::translate("FreedesktopTrash",
+                                           "The Trash already holds too many items named “%1”.")
+            .arg(itemName);
     case TrashFailure::Unexpected:
         break;
     }
-    return QStringLiteral("“%1” could not be moved to the Trash because of an unexpected error.")
+    return QCoreApplication::translate(
+               "FreedesktopTrash",
+               "“%1” could not be moved to the Trash because of an unexpected error.")
         .arg(itemName);
 }

@@ -235,14 +235,14 @@ QColor darkColor(Color role)
         return rgba(90, 205, 250);
     case Color::NewNamePlaceholder:
         return rgba(165, 168, 174);
+    case Color::ProblemMark:
+        return rgba(255, 118, 118);
     case Color::Placeholder:
         return rgba(150, 153, 160);
     case Color::PlainButtonText:
         return rgba(228, 230, 234);
     case Color::InactiveButtonText:
         return rgba(255, 255, 255, 0.5);
-    case Color::ProblemMark:
-        return rgba(255, 107, 107);
 
     case Color::Accent:
         return rgba(31, 201, 126);

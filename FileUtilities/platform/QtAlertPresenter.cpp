@@ -1,5 +1,6 @@
 #include "QtAlertPresenter.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -14,11 +15,15 @@ int QtAlertPresenter::runModal(const AlertRequest &request)
     box.setIcon(warns ? QMessageBox::Warning : QMessageBox::Information);
     // The icon says what kind of alert this is; a reader says it too.
     if (auto *icon = box.findChild<QLabel *>(QStringLiteral("qt_msgboxex_icon_label")))
-        icon->setAccessibleName(warns ? QStringLiteral("Warning") : QStringLiteral("Information"));
+        icon->setAccessibleName(
+            warns ? QCoreApplication::translate("QtAlertPresenter", "Warning")
+                  : QCoreApplication::translate("QtAlertPresenter", "Information"));
     box.setText(request.title);
     box.setInformativeText(request.text);
     const QStringList buttons =
-        request.buttons.isEmpty() ? QStringList{QStringLiteral("OK")} : request.buttons;
+        request.buttons.isEmpty()
+            ? QStringList{QCoreApplication::translate("QtAlertPresenter", "OK")}
+            : request.buttons;
     QList<QAbstractButton *> added;
     for (qsizetype i = 0; i < buttons.size(); ++i) {
         // The action first and default; a second button is the way out, also for Escape.

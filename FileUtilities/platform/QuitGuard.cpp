@@ -3,6 +3,7 @@
 #include "AlertPresenter.h"
 #include "ApplicationStatus.h"
 #include "WindowDelegate.h"
+#include <QCoreApplication>
 
 QuitGuard::QuitGuard(AlertPresenter &alerts, ApplicationStatus &status)
     : m_alerts(alerts), m_status(status)
@@ -30,7 +31,8 @@ bool QuitGuard::confirm(QuitPolicy::Request request, WindowDelegate *screen)
 
     const int answer = m_alerts.runModal({decision.alert->title,
                                           decision.alert->message,
-                                          {QStringLiteral("Quit"), QStringLiteral("Cancel")}});
+                                          {QCoreApplication::translate("QuitPolicy", "Quit"),
+                                           QCoreApplication::translate("QuitPolicy", "Cancel")}});
     if (answer != AlertPresenter::firstButton) {
         if (decision.raiseWindowOnCancel && bringWindowForward)
             bringWindowForward();

@@ -1,4 +1,5 @@
 #include "QuitPolicy.h"
+#include <QCoreApplication>
 
 namespace QuitPolicy {
 
@@ -6,32 +7,36 @@ namespace {
 
 Alert quitAlert(const QString &message)
 {
-    return {QStringLiteral("Quit Quillmere?"), message};
+    return {QCoreApplication::translate("QuitPolicy", "Quit Quillmere?"), message};
 }
 
 QString scanInProgress()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+        "QuitPolicy",
         "Duplicate files scan is in progress. Are you sure you want to quit Quillmere?");
 }
 
 QString resultsWillBeLost()
 {
-    return QStringLiteral("The current list of the duplicate search results will be lost. Are "
-                          "you sure you want to quit Quillmere?");
+    return QCoreApplication::translate(
+        "QuitPolicy", "The current list of the duplicate search results will be lost. Are "
+                      "you sure you want to quit Quillmere?");
 }
 
 QString renameFilesSelected()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+        "QuitPolicy",
         "There are files selected for rename. Are you sure you want to quit Quillmere?");
 }
 
 QString renameFilesAndResultsHeld()
 {
-    return QStringLiteral("There are files selected for rename, and the current list of the "
-                          "duplicate search results will be lost. Are you sure you want to quit "
-                          "Quillmere?");
+    return QCoreApplication::translate(
+        "QuitPolicy", "There are files selected for rename, and the current list of the "
+                      "duplicate search results will be lost. Are you sure you want to quit "
+                      "Quillmere?");
 }
 
 } // namespace

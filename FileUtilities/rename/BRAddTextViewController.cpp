@@ -8,16 +8,19 @@
 #include "RenamePanelControls.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 
 BRAddTextViewController::BRAddTextViewController(RenameNotificationCenter *center, QWidget *parent)
     : QWidget(parent), m_formatOption(RenamePanelControls::makeRuleSwitch(
                            QStringLiteral("formatOption"), RenameRule::AddText, this)),
-      m_addTextField(RenamePanelControls::makeTextField(QStringLiteral("addTextField"),
-                                                        QStringLiteral("Add Text"), this)),
+      m_addTextField(RenamePanelControls::makeTextField(
+          QStringLiteral("addTextField"),
+          QCoreApplication::translate("BRAddTextViewController", "Add Text"), this)),
       m_whereOptionButton(RenamePanelControls::makeWherePopup(this))
 {
     setObjectName(QStringLiteral("BRAddTextViewController"));
-    m_whereOptionButton->setToolTip(QStringLiteral("Where the text goes"));
+    m_whereOptionButton->setToolTip(
+        QCoreApplication::translate("BRAddTextViewController", "Where the text goes"));
     setAttributes();
 
     QBoxLayout *layout = RenamePanelControls::makePanelLayout(this);

@@ -8,6 +8,7 @@
 #include "RenamePanelControls.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QRegularExpressionValidator>
 
@@ -17,26 +18,30 @@ BRChangeFileNameViewController::BRChangeFileNameViewController(RenameNotificatio
       m_formatOptionButton(RenamePanelControls::makeRuleSwitch(QStringLiteral("formatOptionButton"),
                                                                RenameRule::ChangeFullNames, this)),
       m_newNameTextField(RenamePanelControls::makeTextField(
-          QStringLiteral("newNameTextField"), QStringLiteral("Enter New Name"), this)),
+          QStringLiteral("newNameTextField"),
+          QCoreApplication::translate("BRChangeFileNameViewController", "Enter New Name"), this)),
       m_numberTextField(RenamePanelControls::makeTextField(QStringLiteral("numberTextField"),
                                                            QStringLiteral("1"), this)),
       m_whereOptionButton(RenamePanelControls::makeWherePopup(this))
 {
     setObjectName(QStringLiteral("BRChangeFileNameViewController"));
-    m_numberTextField->setAccessibleName(QStringLiteral("Start Number"));
+    m_numberTextField->setAccessibleName(
+        QCoreApplication::translate("BRChangeFileNameViewController", "Start Number"));
     m_numberTextField->setText(QStringLiteral("1"));
     m_numberTextField->setFixedWidth(84);
     // Digits, with a sign for a count that starts below zero; the rule reads the rest.
     m_numberTextField->setValidator(new QRegularExpressionValidator(
         QRegularExpression(QStringLiteral("-?[0-9]*")), m_numberTextField));
-    m_whereOptionButton->setToolTip(QStringLiteral("Where the number goes"));
+    m_whereOptionButton->setToolTip(
+        QCoreApplication::translate("BRChangeFileNameViewController", "Where the number goes"));
     setAttributes();
 
     QBoxLayout *layout = RenamePanelControls::makePanelLayout(this);
     layout->addWidget(m_formatOptionButton);
     layout->addWidget(m_newNameTextField, 1);
     layout->addSpacing(4);
-    layout->addWidget(RenamePanelControls::makeCaption(QStringLiteral("starting at"), this));
+    layout->addWidget(RenamePanelControls::makeCaption(
+        QCoreApplication::translate("BRChangeFileNameViewController", "starting at"), this));
     layout->addWidget(m_numberTextField);
     layout->addWidget(m_whereOptionButton);
 

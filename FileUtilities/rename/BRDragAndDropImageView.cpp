@@ -4,6 +4,7 @@
 #include "LookColors.h"
 #include "RenameNotificationCenter.h"
 
+#include <QCoreApplication>
 #include <QDropEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -52,7 +53,7 @@ BRDragAndDropImageView::BRDragAndDropImageView(RenameNotificationCenter *center,
     : QWidget(parent), m_center(center)
 {
     setObjectName(QStringLiteral("dragAndDropImageView"));
-    setAccessibleName(QStringLiteral("Drop files here"));
+    setAccessibleName(QCoreApplication::translate("BRDragAndDropImageView", "Drop files here"));
     setAcceptDrops(true);
     setFixedSize(sizeHint());
 }

@@ -7,6 +7,7 @@
 #include "OpenPanel.h"
 #include "RenameNotificationCenter.h"
 
+#include <QCoreApplication>
 #include <QDropEvent>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -22,18 +23,21 @@ BRDragAndDropView::BRDragAndDropView(RenameNotificationCenter *center, OpenPanel
     setAcceptDrops(true);
     m_view->setObjectName(QStringLiteral("view"));
 
-    QLabel *headline = Look::label(m_view, 22, QFont::Medium, Look::Color::PrimaryText,
-                                   QStringLiteral("Drop files and folders here to rename them"));
+    QLabel *headline =
+        Look::label(m_view, 22, QFont::Medium, Look::Color::PrimaryText,
+                    QCoreApplication::translate("BRDragAndDropView",
+                                                "Drop files and folders here to rename them"));
     headline->setObjectName(QStringLiteral("invitationLabel"));
-    QLabel *detail =
-        Look::label(m_view, 14, QFont::Normal, Look::Color::SecondaryText,
-                    QStringLiteral("You see every new name before anything on disk changes."));
+    QLabel *detail = Look::label(
+        m_view, 14, QFont::Normal, Look::Color::SecondaryText,
+        QCoreApplication::translate("BRDragAndDropView",
+                                    "You see every new name before anything on disk changes."));
     detail->setObjectName(QStringLiteral("detailLabel"));
     for (QLabel *label : {headline, detail})
         label->setAlignment(Qt::AlignCenter);
 
     m_browseButton->setObjectName(QStringLiteral("browseButton"));
-    m_browseButton->setText(QStringLiteral("Choose Files…"));
+    m_browseButton->setText(QCoreApplication::translate("BRDragAndDropView", "Choose Files…"));
     m_browseButton->setFont(Look::font(17));
     m_browseButton->setMinimumWidth(200);
     m_browseButton->setCursor(Qt::PointingHandCursor);
@@ -73,8 +77,9 @@ OpenPanelRequest BRDragAndDropView::filesToRenameRequest(const QString &message,
 
 void BRDragAndDropView::browseAction()
 {
-    const QList<QUrl> urls = m_openPanel.runModal(
-        filesToRenameRequest(QStringLiteral("Choose files to rename"), QStringLiteral("Choose")));
+    const QList<QUrl> urls = m_openPanel.runModal(filesToRenameRequest(
+        QCoreApplication::translate("BRDragAndDropView", "Choose files to rename"),
+        QCoreApplication::translate("BRDragAndDropView", "Choose")));
     if (!urls.isEmpty())
         announce(urls);
 }

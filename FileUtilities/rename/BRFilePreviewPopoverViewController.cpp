@@ -6,6 +6,7 @@
 #include "Look.h"
 #include "RenameRowStyle.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
@@ -55,7 +56,8 @@ BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *
     m_renameFileImageView->setObjectName(QStringLiteral("renameFileImageView"));
     m_renameFileImageView->setFixedSize(imageSide, imageSide);
     m_renameFileImageView->setAlignment(Qt::AlignCenter);
-    m_renameFileImageView->setAccessibleName(QStringLiteral("Preview"));
+    m_renameFileImageView->setAccessibleName(
+        QCoreApplication::translate("BRFilePreviewPopoverViewController", "Preview"));
     m_renameFileImageView->setPixmap(framedImage(QImage(), devicePixelRatioF()));
 
     m_renameFileCurrentLabel->setObjectName(QStringLiteral("renameFileCurrentLabel"));
@@ -64,7 +66,8 @@ BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *
     Look::setTextStyle(m_renameFileCurrentLabel, 15, QFont::Medium, Look::Color::PrimaryText);
 
     m_renameFileNewNameTextField->setObjectName(QStringLiteral("renameFileNewNameTextField"));
-    m_renameFileNewNameTextField->setAccessibleName(QStringLiteral("New Name"));
+    m_renameFileNewNameTextField->setAccessibleName(
+        QCoreApplication::translate("BRFilePreviewPopoverViewController", "New Name"));
     m_renameFileNewNameTextField->setPlaceholderText(RenameRowStyle::placeholderText());
     m_renameFileNewNameTextField->setFont(Look::font(15));
     m_renameFileNewNameTextField->setFixedWidth(imageSide);
@@ -83,13 +86,15 @@ BRFilePreviewPopoverViewController::BRFilePreviewPopoverViewController(QWidget *
     layout->setSpacing(0);
     layout->addWidget(m_renameFileImageView);
     layout->addSpacing(12);
-    layout->addWidget(Look::label(this, 11, QFont::Normal, Look::Color::SecondaryText,
-                                  QStringLiteral("Current name")));
+    layout->addWidget(Look::label(
+        this, 11, QFont::Normal, Look::Color::SecondaryText,
+        QCoreApplication::translate("BRFilePreviewPopoverViewController", "Current name")));
     layout->addSpacing(2);
     layout->addWidget(m_renameFileCurrentLabel);
     layout->addSpacing(10);
-    layout->addWidget(Look::label(this, 11, QFont::Normal, Look::Color::SecondaryText,
-                                  QStringLiteral("New name")));
+    layout->addWidget(
+        Look::label(this, 11, QFont::Normal, Look::Color::SecondaryText,
+                    QCoreApplication::translate("BRFilePreviewPopoverViewController", "New name")));
     layout->addSpacing(4);
     layout->addWidget(m_renameFileNewNameTextField);
     m_problemLabel->setObjectName(QStringLiteral("problemLabel"));

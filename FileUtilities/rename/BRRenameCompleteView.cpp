@@ -4,7 +4,9 @@
 #include "Look.h"
 #include "LookStyleSheets.h"
 #include "RenameNotificationCenter.h"
+#include "Translations.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -42,10 +44,13 @@ BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWi
     : BRImageBackgroundView(QStringLiteral("bg"), Tone::Light, parent), m_center(center),
       m_completeView(new QWidget(this)),
       m_headline(Look::label(m_completeView, 24, QFont::Medium, Look::Color::PrimaryText,
-                             QStringLiteral("Renaming done"))),
+                             QCoreApplication::translate("BRRenameCompleteView", "Renaming done"))),
       m_renameStatusLabel(new QLabel(m_completeView)),
-      m_showFailedButton(new QPushButton(QStringLiteral("Show failed files"), m_completeView)),
-      m_undoButton(new QPushButton(QStringLiteral("Undo Rename"), m_completeView)),
+      m_showFailedButton(
+          new QPushButton(QCoreApplication::translate("BRRenameCompleteView", "Show failed files"),
+                          m_completeView)),
+      m_undoButton(new QPushButton(
+          QCoreApplication::translate("BRRenameCompleteView", "Undo Rename"), m_completeView)),
       m_doneButton(new BRRenameCompleteViewDoneButton(m_completeView))
 {
     setObjectName(QStringLiteral("renameCompleteStatusView"));
@@ -55,7 +60,7 @@ BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWi
     badgeView->setPixmap(badge(devicePixelRatioF()));
     badgeView->setAlignment(Qt::AlignCenter);
     // The tick says the run went through; a reader hears the same.
-    badgeView->setAccessibleName(QStringLiteral("Completed"));
+    badgeView->setAccessibleName(QCoreApplication::translate("BRRenameCompleteView", "Completed"));
 
     m_headline->setObjectName(QStringLiteral("headlineLabel"));
     m_headline->setAlignment(Qt::AlignCenter);
@@ -66,7 +71,7 @@ BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWi
     Look::setTextStyle(m_renameStatusLabel, 13, QFont::Normal, Look::Color::SecondaryText);
 
     m_doneButton->setObjectName(QStringLiteral("doneButton"));
-    m_doneButton->setText(QStringLiteral("Done"));
+    m_doneButton->setText(QCoreApplication::translate("BRRenameCompleteView", "Done"));
     m_doneButton->setFont(Look::font(15));
     m_doneButton->setMinimumWidth(140);
     m_doneButton->setCursor(Qt::PointingHandCursor);
@@ -81,7 +86,8 @@ BRRenameCompleteView::BRRenameCompleteView(RenameNotificationCenter *center, QWi
     m_showFailedButton->hide();
     m_undoButton->setObjectName(QStringLiteral("undoButton"));
     m_undoButton->setMinimumWidth(140);
-    m_undoButton->setToolTip(QStringLiteral("Give every renamed file its old name again"));
+    m_undoButton->setToolTip(QCoreApplication::translate(
+        "BRRenameCompleteView", "Give every renamed file its old name again"));
     m_undoButton->hide();
 
     auto *buttons = new QHBoxLayout;
@@ -135,23 +141,27 @@ void BRRenameCompleteView::setRenameCompleteView(const QStringList &renamedFiles
 {
     if (renamedFiles.isEmpty())
         return;
-    m_headline->setText(QStringLiteral("Renaming done"));
+    m_headline->setText(QCoreApplication::translate("BRRenameCompleteView", "Renaming done"));
     // Only the counts: the names are in the folder for the user to see, and the failed
     // rows in the list that Show failed files brings back.
-    QString status = QString::number(renamedFiles.size()) + QStringLiteral(" files renamed");
+    QString status = QCoreApplication::translate("BRRenameCompleteView", "%n files renamed",
+                                                 nullptr, pluralCount(renamedFiles.size()));
     if (m_failedCount > 0)
-        status += QStringLiteral(", %1 failed").arg(m_failedCount);
+        status += QCoreApplication::translate("BRRenameCompleteView", ", %n failed", nullptr,
+                                              pluralCount(m_failedCount));
     m_renameStatusLabel->setText(status);
     m_showFailedButton->setVisible(m_failedCount > 0);
 }
 
 void BRRenameCompleteView::showUndone(qsizetype restored, qsizetype notRestored)
 {
-    m_headline->setText(QStringLiteral("Rename undone"));
+    m_headline->setText(QCoreApplication::translate("BRRenameCompleteView", "Rename undone"));
     QString status =
-        QString::number(restored) + QStringLiteral(" files have their old names again");
+        QCoreApplication::translate("BRRenameCompleteView", "%n files have their old names again",
+                                    nullptr, pluralCount(restored));
     if (notRestored > 0)
-        status += QStringLiteral(", %1 could not go back").arg(notRestored);
+        status += QCoreApplication::translate("BRRenameCompleteView", ", %n could not go back",
+                                              nullptr, pluralCount(notRestored));
     m_renameStatusLabel->setText(status);
     // The failed rows belonged to a batch that is undone now.
     m_showFailedButton->hide();

@@ -9,6 +9,7 @@
 #include "ThumbnailCache.h"
 #include "ThumbnailLoader.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -28,7 +29,7 @@ BRRenameTableView::BRRenameTableView(QWidget *parent)
     // A click on the list takes the keyboard, which ends the typing of a row's name; Tab
     // reaches it too, for the arrows, Enter and Delete.
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(QStringLiteral("Files to rename"));
+    setAccessibleName(QCoreApplication::translate("BRRenameTableView", "Files to rename"));
     setFrameShape(QFrame::NoFrame);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -6,6 +6,7 @@
 #include "LookStyleSheets.h"
 #include "RenameRowStyle.h"
 
+#include <QCoreApplication>
 #include <QEnterEvent>
 #include <QFocusEvent>
 #include <QLabel>
@@ -39,10 +40,13 @@ BRRenameTableViewCell::BRRenameTableViewCell(QWidget *parent)
       m_sourceFileNamesLabel(new QLabel(this)), m_destFileNameLabel(new CustomTextField(this)),
       m_extensionSuffix(
           new ExtensionSuffixLabel(m_destFileNameLabel, RenameRowStyle::newNameFieldFrame())),
-      m_removeButton(makeImageButton(QStringLiteral("removeButton"), QStringLiteral("Remove"),
+      m_removeButton(makeImageButton(QStringLiteral("removeButton"),
+                                     QCoreApplication::translate("BRRenameTableViewCell", "Remove"),
                                      RenameRowStyle::removeIcon(), QSize(18, 18), this)),
-      m_popoverButton(makeImageButton(QStringLiteral("popoverButton"), QStringLiteral("Preview"),
-                                      RenameRowStyle::popoverIcon(), QSize(20, 20), this)),
+      m_popoverButton(
+          makeImageButton(QStringLiteral("popoverButton"),
+                          QCoreApplication::translate("BRRenameTableViewCell", "Preview"),
+                          RenameRowStyle::popoverIcon(), QSize(20, 20), this)),
       m_markView(new QLabel(this))
 {
     m_markView->setObjectName(QStringLiteral("markView"));
@@ -54,7 +58,8 @@ BRRenameTableViewCell::BRRenameTableViewCell(QWidget *parent)
     m_sourceFileNamesLabel->setTextFormat(Qt::PlainText);
     m_sourceFileNamesLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_destFileNameLabel->setObjectName(QStringLiteral("destFileNameLabel"));
-    m_destFileNameLabel->setAccessibleName(QStringLiteral("New Name"));
+    m_destFileNameLabel->setAccessibleName(
+        QCoreApplication::translate("BRRenameTableViewCell", "New Name"));
     m_destFileNameLabel->installEventFilter(this);
     // Files dragged over the row go to the list, never into the field as text.
     m_destFileNameLabel->setAcceptDrops(false);
@@ -136,8 +141,10 @@ void BRRenameTableViewCell::setMark(RowMark mark, const QString &why)
     m_mark = mark;
     m_markView->setVisible(mark != RowMark::None);
     m_markView->setToolTip(why);
-    m_markView->setAccessibleName(mark == RowMark::Failed ? QStringLiteral("Failed")
-                                                          : QStringLiteral("Will not be renamed"));
+    m_markView->setAccessibleName(
+        mark == RowMark::Failed
+            ? QCoreApplication::translate("BRRenameTableViewCell", "Failed")
+            : QCoreApplication::translate("BRRenameTableViewCell", "Will not be renamed"));
     m_markView->setAccessibleDescription(why);
     m_markView->setPixmap(
         RenameRowStyle::markPixmap(mark, m_markView->size(), devicePixelRatioF()));

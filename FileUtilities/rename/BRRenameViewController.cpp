@@ -19,10 +19,12 @@
 #include "RenameProblemText.h"
 #include "RenameTableModel.h"
 #include "RowAnchoredPopover.h"
+#include "Translations.h"
 #include "ViewFader.h"
 #include "WorkerTask.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -33,13 +35,15 @@
 
 namespace {
 
-const QString fileDoesNotExistTitle = QStringLiteral("File does not exist");
-const QString missingFilesTitle = QStringLiteral("Missing files");
-const QString missingFilesText = QStringLiteral("Some files are missing and could not be found.");
+// Functions, not constants: the translator is installed after static initialisation.
+QString fileDoesNotExistTitle()
+{
+    return QCoreApplication::translate("BRRenameViewController", "File does not exist");
+}
 
 QString doesNotExistText(const QString &key)
 {
-    return key + QStringLiteral(" does not exist");
+    return QCoreApplication::translate("BRRenameViewController", "%1 does not exist").arg(key);
 }
 
 } // namespace
@@ -167,14 +171,19 @@ void BRRenameViewController::connectList()
     connect(m_list, &RenameList::lastRowRemoved, this,
             &BRRenameViewController::showDragAndDropView);
     connect(m_list, &RenameList::namesAlreadyListed, this, [this] {
-        showAlert(QStringLiteral("Some files already exist"),
-                  QStringLiteral("Some of the files you were adding for rename are already in "
-                                 "the list. So they are not added again"));
+        showAlert(QCoreApplication::translate("BRRenameViewController", "Some files already exist"),
+                  QCoreApplication::translate(
+                      "BRRenameViewController",
+                      "Some of the files you were adding for rename are already in "
+                      "the list. So they are not added again"));
     });
-    connect(m_list, &RenameList::filesMissing, this,
-            [this] { showAlert(missingFilesTitle, missingFilesText); });
+    connect(m_list, &RenameList::filesMissing, this, [this] {
+        showAlert(QCoreApplication::translate("BRRenameViewController", "Missing files"),
+                  QCoreApplication::translate("BRRenameViewController",
+                                              "Some files are missing and could not be found."));
+    });
     connect(m_list, &RenameList::fileDoesNotExist, this, [this](const QString &key) {
-        showAlert(fileDoesNotExistTitle, doesNotExistText(key));
+        showAlert(fileDoesNotExistTitle(), doesNotExistText(key));
     });
     connect(m_list, &RenameList::renameStarted, this, &BRRenameViewController::closePopOver);
     connect(m_list, &RenameList::renameEnded, this, &BRRenameViewController::renameEnded);
@@ -244,9 +253,12 @@ void BRRenameViewController::renameAction()
 void BRRenameViewController::renameEnded(const QStringList &renamed, int failed)
 {
     if (failed > 0)
-        showAlert(QStringLiteral("Could not rename some files"),
-                  QStringLiteral("Some files could not be renamed since they are locked or you "
-                                 "don't have permission to modify them."));
+        showAlert(
+            QCoreApplication::translate("BRRenameViewController", "Could not rename some files"),
+            QCoreApplication::translate(
+                "BRRenameViewController",
+                "Some files could not be renamed since they are locked or you "
+                "don't have permission to modify them."));
     if (renamed.isEmpty())
         return;
     m_renameCompleteStatusView->setFailedCount(failed);
@@ -286,9 +298,12 @@ void BRRenameViewController::undoEnded(qsizetype restored, const QList<UndoFailu
             QUrl::fromLocalFile(failure.file.fromPath).fileName(), failure.check, failure.error));
     }
     if (failures.size() > shownAtMost)
-        lines.append(QStringLiteral("%1 more files could not go back either.")
-                         .arg(failures.size() - shownAtMost));
-    showAlert(QStringLiteral("Some files keep their new names"), lines.join(u'\n'));
+        lines.append(QCoreApplication::translate("BRRenameViewController",
+                                                 "%n more files could not go back either.", nullptr,
+                                                 pluralCount(failures.size() - shownAtMost)));
+    showAlert(
+        QCoreApplication::translate("BRRenameViewController", "Some files keep their new names"),
+        lines.join(u'\n'));
 }
 
 // ---------------------------------------------------------------------------------------
@@ -382,7 +397,8 @@ void BRRenameViewController::refreshRenameButtonTitle()
     // The words stay "files" for a single file too. With names to give, the count is of the
     // files a press would rename: rows in conflict, or named as they are, are left out.
     const int count = m_renameActive ? m_list->renameCount() : m_list->rowCount();
-    const QString title = QStringLiteral("Rename %1 files").arg(count);
+    const QString title =
+        QCoreApplication::translate("BRRenameViewController", "Rename %n files", nullptr, count);
     setRenameButtonTitle(title, m_renameActive ? Look::Color::TextOnColor
                                                : Look::Color::InactiveButtonText);
 }
@@ -418,7 +434,7 @@ void BRRenameViewController::showPopOver(int row)
         return;
     const QString path = record->sourceURL.toLocalFile();
     if (path.isEmpty()) {
-        showAlert(fileDoesNotExistTitle, doesNotExistText(key));
+        showAlert(fileDoesNotExistTitle(), doesNotExistText(key));
         m_list->remove(key);
         return;
     }

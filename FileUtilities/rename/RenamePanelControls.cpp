@@ -4,6 +4,7 @@
 #include "BRRenameRoundedTextField.h"
 #include "Look.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -28,7 +29,7 @@ RenamePanelControls::makeRuleSwitch(const QString &objectName, RenameRule ownRul
 {
     auto *ruleSwitch = new BRRenameDisableVibrancePopUpButton(parent);
     ruleSwitch->setObjectName(objectName);
-    ruleSwitch->setAccessibleName(QStringLiteral("Rule"));
+    ruleSwitch->setAccessibleName(QCoreApplication::translate("RenamePanelControls", "Rule"));
     ruleSwitch->addItem(ruleTitle(ownRule), QVariant::fromValue(ownRule));
     const RenameRule other = otherRule(ownRule);
     ruleSwitch->addItem(switchTitle(other), QVariant::fromValue(other));
@@ -43,7 +44,7 @@ BRRenameDisableVibrancePopUpButton *RenamePanelControls::makeWherePopup(QWidget 
 {
     auto *where = new BRRenameDisableVibrancePopUpButton(parent);
     where->setObjectName(QStringLiteral("whereOptionButton"));
-    where->setAccessibleName(QStringLiteral("Where"));
+    where->setAccessibleName(QCoreApplication::translate("RenamePanelControls", "Where"));
     for (const NamePlacement placement : {NamePlacement::AfterName, NamePlacement::BeforeName})
         where->addItem(placementTitle(placement), QVariant::fromValue(placement));
     where->setFont(Look::font(15));
@@ -73,9 +74,9 @@ QString RenamePanelControls::ruleTitle(RenameRule rule)
 {
     switch (rule) {
     case RenameRule::ChangeFullNames:
-        return QStringLiteral("Change full file names to");
+        return QCoreApplication::translate("RenamePanelControls", "Change full file names to");
     case RenameRule::AddText:
-        return QStringLiteral("Add text to existing names");
+        return QCoreApplication::translate("RenamePanelControls", "Add text to existing names");
     }
     Q_UNREACHABLE();
     return {};
@@ -85,9 +86,9 @@ QString RenamePanelControls::switchTitle(RenameRule rule)
 {
     switch (rule) {
     case RenameRule::ChangeFullNames:
-        return QStringLiteral("Change full name");
+        return QCoreApplication::translate("RenamePanelControls", "Change full name");
     case RenameRule::AddText:
-        return QStringLiteral("Add text to name");
+        return QCoreApplication::translate("RenamePanelControls", "Add text to name");
     }
     Q_UNREACHABLE();
     return {};
@@ -97,9 +98,9 @@ QString RenamePanelControls::placementTitle(NamePlacement where)
 {
     switch (where) {
     case NamePlacement::AfterName:
-        return QStringLiteral("After name");
+        return QCoreApplication::translate("RenamePanelControls", "After name");
     case NamePlacement::BeforeName:
-        return QStringLiteral("Before name");
+        return QCoreApplication::translate("RenamePanelControls", "Before name");
     }
     Q_UNREACHABLE();
     return {};

@@ -4,6 +4,7 @@
 #include "Look.h"
 #include "LookStyleSheets.h"
 
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPainterPath>
@@ -110,7 +111,7 @@ QColor RenameRowStyle::extensionColor()
 
 QString RenameRowStyle::placeholderText()
 {
-    return QStringLiteral("New Name");
+    return QCoreApplication::translate("RenameRowStyle", "New Name");
 }
 
 QString RenameRowStyle::newNameFieldStyleSheet()
@@ -247,7 +248,8 @@ void RenameRowStyle::paintMark(QPainter *painter, const QRect &rect, RowMark mar
     case RowMark::Failed:
         painter->setPen(red);
         painter->setFont(Look::font(13, QFont::DemiBold));
-        painter->drawText(rect, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("Failed"));
+        painter->drawText(rect, Qt::AlignRight | Qt::AlignVCenter,
+                          QCoreApplication::translate("RenameRowStyle", "Failed"));
         break;
     case RowMark::None:
         break;

@@ -4,6 +4,7 @@
 #include "RenameList.h"
 #include "RenameProblemText.h"
 
+#include <QCoreApplication>
 #include <QMimeData>
 
 RenameTableModel::RenameTableModel(QObject *parent) : QAbstractListModel(parent) {}
@@ -118,11 +119,12 @@ QString RenameTableModel::markText(const RenameRecord &record)
 QString RenameTableModel::accessibleDescription(const RenameRecord &record)
 {
     if (!record.destinationURL || record.destinationURL->isEmpty())
-        return QStringLiteral("No new name");
+        return QCoreApplication::translate("RenameTableModel", "No new name");
     const QString whole = *record.destinationURL + suffixOf(record);
-    const QString name = record.nameSource == NameSource::HandEdit
-                             ? QStringLiteral("New name, typed: ") + whole
-                             : QStringLiteral("New name: ") + whole;
+    const QString name =
+        record.nameSource == NameSource::HandEdit
+            ? QCoreApplication::translate("RenameTableModel", "New name, typed: %1").arg(whole)
+            : QCoreApplication::translate("RenameTableModel", "New name: %1").arg(whole);
     const QString why = markText(record);
     return why.isEmpty() ? name : name + QStringLiteral(". ") + why;
 }

@@ -4,7 +4,9 @@
 #include "BRDuplicateFilesViewDelegate.h"
 #include "Look.h"
 #include "LookStyleSheets.h"
+#include "Translations.h"
 
+#include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,7 +18,8 @@
 
 BRDuplicateCancelViewController::BRDuplicateCancelViewController(QWidget *parent)
     : QWidget(parent), m_progressIndicator(new QProgressBar(this)),
-      m_cancelButton(new QPushButton(QStringLiteral("Stop"), this)),
+      m_cancelButton(new QPushButton(
+          QCoreApplication::translate("BRDuplicateCancelViewController", "Stop"), this)),
       m_scannedCountLabel(new QLabel(this)), m_currentFolderLabel(new QLabel(this))
 {
     setObjectName(QStringLiteral("BRDuplicateCancelViewController"));
@@ -26,7 +29,8 @@ BRDuplicateCancelViewController::BRDuplicateCancelViewController(QWidget *parent
     m_currentFolderLabel->setObjectName(QStringLiteral("currentFolderLabel"));
 
     m_progressIndicator->setTextVisible(false);
-    m_progressIndicator->setAccessibleName(QStringLiteral("Scan progress"));
+    m_progressIndicator->setAccessibleName(
+        QCoreApplication::translate("BRDuplicateCancelViewController", "Scan progress"));
     m_progressIndicator->setFixedHeight(6);
     // Most styles draw the busy state as a full bar with faint stripes, which reads as
     // finished; a segment moving along a track says the walk goes on.
@@ -95,8 +99,13 @@ QString BRDuplicateCancelViewController::scannedCountText(qint64 entriesScanned)
     if (locale.language() == QLocale::C)
         locale = QLocale(QLocale::English, QLocale::UnitedStates);
     const QString count = locale.toString(entriesScanned);
-    return entriesScanned == 1 ? QStringLiteral("%1 item scanned").arg(count)
-                               : QStringLiteral("%1 items scanned").arg(count);
+    const int plural = pluralCount(entriesScanned);
+    return entriesScanned == 1 ? QCoreApplication::translate("BRDuplicateCancelViewController",
+                                                             "%1 item scanned", nullptr, plural)
+                                     .arg(count)
+                               : QCoreApplication::translate("BRDuplicateCancelViewController",
+                                                             "%1 items scanned", nullptr, plural)
+                                     .arg(count);
 }
 
 void BRDuplicateCancelViewController::updateScanProgress(qint64 entriesScanned,
@@ -112,7 +121,10 @@ void BRDuplicateCancelViewController::showRemovalProgress(int done, int total)
 {
     m_progressIndicator->setRange(0, qMax(1, total));
     m_progressIndicator->setValue(done);
-    m_scannedCountLabel->setText(QStringLiteral("%1 of %2 copies checked").arg(done).arg(total));
+    m_scannedCountLabel->setText(
+        QCoreApplication::translate("BRDuplicateCancelViewController", "%1 of %2 copies checked")
+            .arg(done)
+            .arg(total));
     m_currentFolder.clear();
     m_currentFolderLabel->clear();
     m_currentFolderLabel->setToolTip(QString());

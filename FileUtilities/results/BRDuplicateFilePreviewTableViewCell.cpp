@@ -3,6 +3,7 @@
 #include "BRDuplicateFilePreviewDelegate.h"
 #include "Look.h"
 
+#include <QCoreApplication>
 #include <QCursor>
 #include <QEnterEvent>
 #include <QHBoxLayout>
@@ -73,8 +74,10 @@ BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget
     m_serialLabel->setAlignment(Qt::AlignRight | Qt::AlignTop);
 
     m_deleteButton->setObjectName(QStringLiteral("deleteButton"));
-    m_deleteButton->setAccessibleName(QStringLiteral("Move to Trash"));
-    m_deleteButton->setToolTip(QStringLiteral("Move to Trash"));
+    m_deleteButton->setAccessibleName(
+        QCoreApplication::translate("BRDuplicateFilePreviewTableViewCell", "Move to Trash"));
+    m_deleteButton->setToolTip(
+        QCoreApplication::translate("BRDuplicateFilePreviewTableViewCell", "Move to Trash"));
     m_deleteButton->setAutoRaise(true);
     m_deleteButton->setCursor(Qt::PointingHandCursor);
     // The themes' full-colour bins shout among the grey rows; their plain outline does not.
@@ -85,7 +88,8 @@ BRDuplicateFilePreviewTableViewCell::BRDuplicateFilePreviewTableViewCell(QWidget
     connect(m_deleteButton, &QToolButton::clicked, this,
             &BRDuplicateFilePreviewTableViewCell::deleteAction);
 
-    m_checkingLabel->setText(QStringLiteral("Checking\u2026"));
+    m_checkingLabel->setText(
+        QCoreApplication::translate("BRDuplicateFilePreviewTableViewCell", "Checking…"));
     Look::setTextStyle(m_checkingLabel, 11, QFont::DemiBold, Look::Color::PrimaryText);
     m_checkingLabel->hide();
     m_sameFileLabel->hide();
@@ -191,8 +195,11 @@ void BRDuplicateFilePreviewTableViewCell::setChecking(bool checking)
 void BRDuplicateFilePreviewTableViewCell::setSameFileAs(int serial)
 {
     m_sameFileLabel->setVisible(serial > 0);
-    m_sameFileLabel->setText(serial > 0 ? QStringLiteral("Same file as %1.").arg(serial)
-                                        : QString());
+    m_sameFileLabel->setText(
+        serial > 0
+            ? QCoreApplication::translate("BRDuplicateFilePreviewTableViewCell", "Same file as %1.")
+                  .arg(serial)
+            : QString());
 }
 
 void BRDuplicateFilePreviewTableViewCell::setHovered(bool hovered)

@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 #include <QtMath>
 
+#include <QCoreApplication>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -66,11 +67,12 @@ BRDuplicateFilePreviewViewController::BRDuplicateFilePreviewViewController(QWidg
     Look::setTextStyle(m_fileNameLabel, 15, QFont::Bold, Look::Color::PrimaryText);
     m_fileNameLabel->setTextFormat(Qt::PlainText);
     // Keeping one copy of this group: the button stands at the end of the title line.
-    m_keepOneButton = KeepOneMenu::makeButton(this, QStringLiteral("this group"), true,
-                                              [this](KeepOnePlan::Rule rule) {
-                                                  if (m_delegate && m_key)
-                                                      m_delegate->keepOneCopy(rule, {*m_key});
-                                              });
+    m_keepOneButton = KeepOneMenu::makeButton(
+        this, QCoreApplication::translate("BRDuplicateFilePreviewViewController", "this group"),
+        true, [this](KeepOnePlan::Rule rule) {
+            if (m_delegate && m_key)
+                m_delegate->keepOneCopy(rule, {*m_key});
+        });
     m_keepOneButton->hide();
     m_fileNameLabel->setFixedWidth(FilePreviewView::side + margin +
                                    m_dupePreviewTableView->width() -
@@ -242,9 +244,12 @@ BRDuplicateFilePreviewTableViewCell *BRDuplicateFilePreviewViewController::viewF
     if (modified && record != m_fileInfo.constEnd()) {
         // Every row shows the size of one copy, as the group's record holds it.
         cell->byteSizeLabel()->setText(getSizeInBytes(record->fileSize));
-        cell->modifiedDateLabel()->setText(QStringLiteral("Modified:") + *modified);
+        cell->modifiedDateLabel()->setText(
+            QCoreApplication::translate("BRDuplicateFilePreviewViewController", "Modified:%1")
+                .arg(*modified));
     } else {
-        cell->byteSizeLabel()->setText(QStringLiteral("Not Available"));
+        cell->byteSizeLabel()->setText(
+            QCoreApplication::translate("BRDuplicateFilePreviewViewController", "Not Available"));
         cell->modifiedDateLabel()->setText(QString());
     }
     // What a screen reader says of the row: which copy, where, and what the row shows.
@@ -255,7 +260,10 @@ BRDuplicateFilePreviewTableViewCell *BRDuplicateFilePreviewViewController::viewF
         details.append(cell->checkingLabel()->text());
     if (!cell->sameFileLabel()->isHidden())
         details.append(cell->sameFileLabel()->text());
-    cell->setAccessibleName(QStringLiteral("Copy %1: %2").arg(row + 1).arg(path));
+    cell->setAccessibleName(
+        QCoreApplication::translate("BRDuplicateFilePreviewViewController", "Copy %1: %2")
+            .arg(row + 1)
+            .arg(path));
     cell->setAccessibleDescription(details.join(QStringLiteral(", ")));
     cell->pathLabel()->setAccessibleName(path);
     return cell;

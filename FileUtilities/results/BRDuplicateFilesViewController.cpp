@@ -23,6 +23,7 @@
 #include "ResultsLog.h"
 #include "RowAnchoredPopover.h"
 #include "ThumbnailLoader.h"
+#include "Translations.h"
 #include "ViewFader.h"
 #include "WorkerTask.h"
 #include "Workspace.h"
@@ -40,6 +41,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <QCoreApplication>
 #include <sys/stat.h>
 
 namespace {
@@ -55,12 +57,12 @@ bool fileExistsAtPath(const QString &path)
 
 QString duplicateFilesCaption()
 {
-    return QStringLiteral("Duplicate files");
+    return QCoreApplication::translate("BRDuplicateFilesViewController", "Duplicate files");
 }
 
 QString reclaimableCaption()
 {
-    return QStringLiteral("Reclaimable");
+    return QCoreApplication::translate("BRDuplicateFilesViewController", "Reclaimable");
 }
 
 QLabel *makeLabel(const QString &objectName, int pixelSize, QFont::Weight weight, Look::Color color,
@@ -118,7 +120,8 @@ void BRDuplicateFilesViewController::buildScreen()
     m_selectedFolderImageView->setObjectName(QStringLiteral("selectedFolderImageView"));
     m_selectedFolderImageView->setFixedSize(36, 36);
     m_selectedFolderImageView->setAlignment(Qt::AlignCenter);
-    m_selectedFolderImageView->setAccessibleName(QStringLiteral("Scanned folder"));
+    m_selectedFolderImageView->setAccessibleName(
+        QCoreApplication::translate("BRDuplicateFilesViewController", "Scanned folder"));
     const Look::Color dark = Look::Color::PrimaryText;
     const Look::Color grey = Look::Color::SecondaryText;
     m_selecteFolderNameLabel =
@@ -149,22 +152,27 @@ void BRDuplicateFilesViewController::buildScreen()
 
     m_searchField = new QLineEdit(header);
     m_searchField->setObjectName(QStringLiteral("searchField"));
-    m_searchField->setPlaceholderText(QStringLiteral("Search by name"));
+    m_searchField->setPlaceholderText(
+        QCoreApplication::translate("BRDuplicateFilesViewController", "Search by name"));
     // The placeholder goes once something is typed; the name stays.
-    m_searchField->setAccessibleName(QStringLiteral("Search by name"));
+    m_searchField->setAccessibleName(
+        QCoreApplication::translate("BRDuplicateFilesViewController", "Search by name"));
     m_searchField->setClearButtonEnabled(true);
     m_searchField->setFixedWidth(220);
     QAction *searchIcon = m_searchField->addAction(QIcon::fromTheme(QStringLiteral("edit-find")),
                                                    QLineEdit::LeadingPosition);
     // The field's two icons are buttons to assistive tools; their actions give the names.
-    searchIcon->setText(QStringLiteral("Search"));
-    searchIcon->setToolTip(QStringLiteral("Search by name"));
+    searchIcon->setText(QCoreApplication::translate("BRDuplicateFilesViewController", "Search"));
+    searchIcon->setToolTip(
+        QCoreApplication::translate("BRDuplicateFilesViewController", "Search by name"));
     connect(searchIcon, &QAction::triggered, m_searchField,
             [this] { m_searchField->setFocus(Qt::ShortcutFocusReason); });
     if (auto *clearSearch =
             m_searchField->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction"))) {
-        clearSearch->setText(QStringLiteral("Clear search"));
-        clearSearch->setToolTip(QStringLiteral("Clear search"));
+        clearSearch->setText(
+            QCoreApplication::translate("BRDuplicateFilesViewController", "Clear search"));
+        clearSearch->setToolTip(
+            QCoreApplication::translate("BRDuplicateFilesViewController", "Clear search"));
     }
     // Ctrl+F reaches the search from anywhere on this screen.
     auto *find = new QShortcut(QKeySequence::Find, this);
@@ -183,7 +191,8 @@ void BRDuplicateFilesViewController::buildScreen()
     headerLayout->addLayout(totalColumn(m_totalDupesSizeLabel, reclaimableCaption()));
     headerLayout->addSpacing(20);
     m_keepOneButton = KeepOneMenu::makeButton(
-        header, QStringLiteral("each group listed"), m_openPanel != nullptr,
+        header, QCoreApplication::translate("BRDuplicateFilesViewController", "each group listed"),
+        m_openPanel != nullptr,
         [this](KeepOnePlan::Rule rule) { keepOneCopyOfGroupsOnScreen(rule); });
     headerLayout->addWidget(m_keepOneButton);
     headerLayout->addWidget(m_searchField);
@@ -192,7 +201,8 @@ void BRDuplicateFilesViewController::buildScreen()
     m_model = new DuplicateTableModel(*m_results, m_results);
     m_duplicateTableView = new BRDuplicateTableView(this);
     m_duplicateTableView->setObjectName(QStringLiteral("duplicateTableView"));
-    m_duplicateTableView->setAccessibleName(QStringLiteral("Duplicates"));
+    m_duplicateTableView->setAccessibleName(
+        QCoreApplication::translate("BRDuplicateFilesViewController", "Duplicates"));
     m_duplicateTableView->setModel(m_model);
     m_duplicateTableView->setItemDelegate(
         new BRDuplicateTableViewCell(*m_thumbnails, m_duplicateTableView));
@@ -351,8 +361,11 @@ void BRDuplicateFilesViewController::scanCompleted(qint64 duplicatesFound)
         m_sortAndCancelTabViewDelegate->selectTabAtIndex(0);
     // Before the alert, which waits for the user, and while the window is still as it was.
     announceScanEnd(duplicatesFound);
-    showAlert(QStringLiteral("Duplicate files scan complete."),
-              QString::number(duplicatesFound) + QStringLiteral(" duplicate files found."));
+    showAlert(QCoreApplication::translate("BRDuplicateFilesViewController",
+                                          "Duplicate files scan complete."),
+              QCoreApplication::translate("BRDuplicateFilesViewController",
+                                          "%n duplicate files found.", nullptr,
+                                          pluralCount(duplicatesFound)));
 }
 
 void BRDuplicateFilesViewController::scanFoundNothing()
@@ -395,10 +408,14 @@ void BRDuplicateFilesViewController::cancelScanProcess()
         return;
     }
     const int answer = m_alerts.runModal(
-        {QStringLiteral("Stop duplicate files scan?"),
-         QStringLiteral("Duplicate files scan is in progress. Are you sure you want to stop "
-                        "the scan?"),
-         {QStringLiteral("Stop"), QStringLiteral("Cancel")}});
+        {QCoreApplication::translate("BRDuplicateFilesViewController",
+                                     "Stop duplicate files scan?"),
+         QCoreApplication::translate(
+             "BRDuplicateFilesViewController",
+             "Duplicate files scan is in progress. Are you sure you want to stop "
+             "the scan?"),
+         {QCoreApplication::translate("BRDuplicateFilesViewController", "Stop"),
+          QCoreApplication::translate("BRDuplicateFilesViewController", "Cancel")}});
     if (answer == AlertPresenter::firstButton) {
         if (m_duplicateMainViewDelegate)
             m_duplicateMainViewDelegate->updateMainTabViewStatus(false);
@@ -412,10 +429,13 @@ void BRDuplicateFilesViewController::cancelScanProcess()
 void BRDuplicateFilesViewController::startNewScanProcess()
 {
     const int answer = m_alerts.runModal(
-        {QStringLiteral("Start a new scan?"),
-         QStringLiteral("The current list of the duplicate search results will be lost. Are "
-                        "you sure you want to start a new scan?"),
-         {QStringLiteral("New scan"), QStringLiteral("Cancel")}});
+        {QCoreApplication::translate("BRDuplicateFilesViewController", "Start a new scan?"),
+         QCoreApplication::translate(
+             "BRDuplicateFilesViewController",
+             "The current list of the duplicate search results will be lost. Are "
+             "you sure you want to start a new scan?"),
+         {QCoreApplication::translate("BRDuplicateFilesViewController", "New scan"),
+          QCoreApplication::translate("BRDuplicateFilesViewController", "Cancel")}});
     if (answer == AlertPresenter::firstButton)
         cancelScanAndStartNewScan();
 }
@@ -543,7 +563,9 @@ void BRDuplicateFilesViewController::removalFinished(const CopyRemoval::Result &
         break;
     }
     qCWarning(resultsLog).noquote() << "kept" << path << ":" << result.message << result.detail;
-    showAlert(QStringLiteral("Could not remove some files"), result.message);
+    showAlert(QCoreApplication::translate("BRDuplicateFilesViewController",
+                                          "Could not remove some files"),
+              result.message);
 }
 
 void BRDuplicateFilesViewController::copyWentToTrash(const QString &key, const QString &path)
@@ -592,8 +614,10 @@ void BRDuplicateFilesViewController::keepOneCopy(KeepOnePlan::Rule rule, const Q
         if (!m_openPanel)
             return;
         OpenPanelRequest request;
-        request.message = QStringLiteral("Choose the folder whose copies to keep");
-        request.prompt = QStringLiteral("Keep Copies Here");
+        request.message = QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                      "Choose the folder whose copies to keep");
+        request.prompt =
+            QCoreApplication::translate("BRDuplicateFilesViewController", "Keep Copies Here");
         request.canChooseFiles = false;
         request.canChooseDirectories = true;
         const QList<QUrl> chosen = m_openPanel->runModal(request);
@@ -606,38 +630,61 @@ void BRDuplicateFilesViewController::keepOneCopy(KeepOnePlan::Rule rule, const Q
     m_keepOneFolder = folder;
     m_keepOneSkipped = plan.groupsWithoutAChoice();
     if (plan.filesToRemove() == 0) {
-        showAlert(QStringLiteral("No files to move to the Trash"),
+        showAlert(QCoreApplication::translate("BRDuplicateFilesViewController",
+                                              "No files to move to the Trash"),
                   rule == KeepOnePlan::Rule::InFolder
-                      ? QStringLiteral("No group listed has a copy in \u201C%1\u201D.")
+                      ? QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                    "No group listed has a copy in “%1”.")
                             .arg(QFileInfo(folder).fileName())
-                      : QStringLiteral("Every group listed has one copy only."));
+                      : QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                    "Every group listed has one copy only."));
         return;
     }
 
     const qsizetype files = plan.filesToRemove();
     const qsizetype groups = plan.groups().size();
-    QString text = QStringLiteral("One copy of each of %1 %2 stays: %3. %4 %5 to the Trash and "
-                                  "%6 %7. Each is compared with the copy that stays before it "
-                                  "goes.")
-                       .arg(groups)
-                       .arg(groups == 1 ? QStringLiteral("group") : QStringLiteral("groups"))
-                       .arg(m_keepOneRuleText)
-                       .arg(files)
-                       .arg(files == 1 ? QStringLiteral("file goes") : QStringLiteral("files go"))
-                       .arg(files == 1 ? QStringLiteral("frees") : QStringLiteral("free"))
-                       .arg(ByteCountFormatter::binary(plan.bytesFreed()));
+    // English says "1 group" but "2 groups"; each form is a text of its own to translate.
+    const int groupCount = pluralCount(groups);
+    const int fileCount = pluralCount(files);
+    QString text =
+        (groups == 1 ? QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                   "One copy of each of %n group stays: %1.",
+                                                   nullptr, groupCount)
+                     : QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                   "One copy of each of %n groups stays: %1.",
+                                                   nullptr, groupCount))
+            .arg(m_keepOneRuleText) +
+        u' ' +
+        (files == 1 ? QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                  "%n file goes to the Trash and frees %1.",
+                                                  nullptr, fileCount)
+                    : QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                  "%n files go to the Trash and free %1.", nullptr,
+                                                  fileCount))
+            .arg(ByteCountFormatter::binary(plan.bytesFreed())) +
+        u' ' +
+        QCoreApplication::translate("BRDuplicateFilesViewController",
+                                    "Each is compared with the copy that stays before it goes.");
     if (m_keepOneSkipped > 0)
-        text += QStringLiteral(" %1 %2 no copy in \u201C%3\u201D and %4 left whole.")
-                    .arg(m_keepOneSkipped)
-                    .arg(m_keepOneSkipped == 1 ? QStringLiteral("group has")
-                                               : QStringLiteral("groups have"))
-                    .arg(QFileInfo(folder).fileName())
-                    .arg(m_keepOneSkipped == 1 ? QStringLiteral("is") : QStringLiteral("are"));
-    const int answer =
-        m_alerts.runModal({files == 1 ? QStringLiteral("Move 1 file to the Trash?")
-                                      : QStringLiteral("Move %1 files to the Trash?").arg(files),
-                           text,
-                           {QStringLiteral("Move to Trash"), QStringLiteral("Cancel")}});
+        text +=
+            u' ' +
+            (m_keepOneSkipped == 1
+                 ? QCoreApplication::translate("BRDuplicateFilesViewController",
+                                               "%n group has no copy in “%1” and is left whole.",
+                                               nullptr, pluralCount(m_keepOneSkipped))
+                 : QCoreApplication::translate("BRDuplicateFilesViewController",
+                                               "%n groups have no copy in “%1” and are left whole.",
+                                               nullptr, pluralCount(m_keepOneSkipped)))
+                .arg(QFileInfo(folder).fileName());
+    const int answer = m_alerts.runModal(
+        {files == 1
+             ? QCoreApplication::translate("BRDuplicateFilesViewController",
+                                           "Move %n file to the Trash?", nullptr, fileCount)
+             : QCoreApplication::translate("BRDuplicateFilesViewController",
+                                           "Move %n files to the Trash?", nullptr, fileCount),
+         text,
+         {QCoreApplication::translate("BRDuplicateFilesViewController", "Move to Trash"),
+          QCoreApplication::translate("BRDuplicateFilesViewController", "Cancel")}});
     if (answer != AlertPresenter::firstButton)
         return;
 
@@ -695,49 +742,78 @@ void BRDuplicateFilesViewController::keepOneRunEnded()
     QStringList sentences;
     if (tally.trashed > 0)
         sentences.append(
-            QStringLiteral("%1 %2 %3.")
-                .arg(tally.trashed == 1 ? QStringLiteral("It") : QStringLiteral("They"))
-                .arg(tally.trashed == 1 ? QStringLiteral("frees") : QStringLiteral("free"))
+            (tally.trashed == 1
+                 ? QCoreApplication::translate("BRDuplicateFilesViewController", "It frees %1.")
+                 : QCoreApplication::translate("BRDuplicateFilesViewController", "They free %1."))
                 .arg(ByteCountFormatter::binary(tally.bytesFreed)));
-    const auto kept = [&](CopyRemoval::Outcome outcome, const QString &one, const QString &many) {
+    // The "many" texts hold %n, filled in here with the count.
+    const auto kept = [&](CopyRemoval::Outcome outcome, const QString &one, const char *many,
+                          const QString &tail = QString()) {
         const int count = tally.kept.value(outcome);
         if (count > 0)
-            sentences.append((count == 1 ? one : many.arg(count)));
+            sentences.append(count == 1
+                                 ? one
+                                 : QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                               many, nullptr, count) +
+                                       tail);
     };
     kept(CopyRemoval::Outcome::Changed,
-         QStringLiteral("1 file was kept: it had changed since the scan."),
-         QStringLiteral("%1 files were kept: they had changed since the scan."));
+         QCoreApplication::translate("BRDuplicateFilesViewController",
+                                     "1 file was kept: it had changed since the scan."),
+         QT_TRANSLATE_N_NOOP("BRDuplicateFilesViewController",
+                             "%n files were kept: they had changed since the scan."));
     kept(CopyRemoval::Outcome::NotACopy,
-         QStringLiteral("1 file was kept: it is not an exact copy of the one that stays."),
-         QStringLiteral("%1 files were kept: they are not exact copies of the ones that stay."));
+         QCoreApplication::translate(
+             "BRDuplicateFilesViewController",
+             "1 file was kept: it is not an exact copy of the one that stays."),
+         QT_TRANSLATE_N_NOOP(
+             "BRDuplicateFilesViewController",
+             "%n files were kept: they are not exact copies of the ones that stay."));
     kept(CopyRemoval::Outcome::LastCopy,
-         QStringLiteral("1 file was kept: the copy meant to stay is gone."),
-         QStringLiteral("%1 files were kept: the copies meant to stay are gone."));
+         QCoreApplication::translate("BRDuplicateFilesViewController",
+                                     "1 file was kept: the copy meant to stay is gone."),
+         QT_TRANSLATE_N_NOOP("BRDuplicateFilesViewController",
+                             "%n files were kept: the copies meant to stay are gone."));
     kept(CopyRemoval::Outcome::Unreadable,
-         QStringLiteral("1 file was kept: it could not be compared."),
-         QStringLiteral("%1 files were kept: they could not be compared."));
-    kept(CopyRemoval::Outcome::TrashRefused, QStringLiteral("1 file was kept: ") + tally.trashError,
-         QStringLiteral("%1 files were kept. The first: ") + tally.trashError);
-    kept(CopyRemoval::Outcome::Vanished, QStringLiteral("1 file was gone already."),
-         QStringLiteral("%1 files were gone already."));
+         QCoreApplication::translate("BRDuplicateFilesViewController",
+                                     "1 file was kept: it could not be compared."),
+         QT_TRANSLATE_N_NOOP("BRDuplicateFilesViewController",
+                             "%n files were kept: they could not be compared."));
+    kept(CopyRemoval::Outcome::TrashRefused,
+         QCoreApplication::translate("BRDuplicateFilesViewController", "1 file was kept: %1")
+             .arg(tally.trashError),
+         QT_TRANSLATE_N_NOOP("BRDuplicateFilesViewController", "%n files were kept. The first: "),
+         tally.trashError);
+    kept(CopyRemoval::Outcome::Vanished,
+         QCoreApplication::translate("BRDuplicateFilesViewController", "1 file was gone already."),
+         QT_TRANSLATE_N_NOOP("BRDuplicateFilesViewController", "%n files were gone already."));
     if (m_keepOneSkipped > 0)
         sentences.append(
-            QStringLiteral("%1 %2 no copy in \u201C%3\u201D and %4 left whole.")
-                .arg(m_keepOneSkipped)
-                .arg(m_keepOneSkipped == 1 ? QStringLiteral("group had")
-                                           : QStringLiteral("groups had"))
-                .arg(QFileInfo(m_keepOneFolder).fileName())
-                .arg(m_keepOneSkipped == 1 ? QStringLiteral("was") : QStringLiteral("were")));
+            (m_keepOneSkipped == 1
+                 ? QCoreApplication::translate("BRDuplicateFilesViewController",
+                                               "%n group had no copy in “%1” and was left whole.",
+                                               nullptr, pluralCount(m_keepOneSkipped))
+                 : QCoreApplication::translate("BRDuplicateFilesViewController",
+                                               "%n groups had no copy in “%1” and were left whole.",
+                                               nullptr, pluralCount(m_keepOneSkipped)))
+                .arg(QFileInfo(m_keepOneFolder).fileName()));
     if (tally.notChecked > 0)
-        sentences.append(QStringLiteral("Stopped: %1 %2 not checked and stayed.")
-                             .arg(tally.notChecked)
-                             .arg(tally.notChecked == 1 ? QStringLiteral("file was")
-                                                        : QStringLiteral("files were")));
+        sentences.append(
+            tally.notChecked == 1
+                ? QCoreApplication::translate("BRDuplicateFilesViewController",
+                                              "Stopped: %n file was not checked and stayed.",
+                                              nullptr, pluralCount(tally.notChecked))
+                : QCoreApplication::translate("BRDuplicateFilesViewController",
+                                              "Stopped: %n files were not checked and stayed.",
+                                              nullptr, pluralCount(tally.notChecked)));
     const QString title =
-        tally.trashed == 0 ? QStringLiteral("No files were moved to the Trash")
-        : tally.trashed == 1
-            ? QStringLiteral("1 file was moved to the Trash")
-            : QStringLiteral("%1 files were moved to the Trash").arg(tally.trashed);
+        tally.trashed == 0   ? QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                           "No files were moved to the Trash")
+        : tally.trashed == 1 ? QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                           "1 file was moved to the Trash")
+                             : QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                           "%n files were moved to the Trash",
+                                                           nullptr, pluralCount(tally.trashed));
     qCInfo(resultsLog).noquote() << title << sentences.join(u' ');
     run->deleteLater();
     showAlert(title, sentences.join(u' '));
@@ -754,8 +830,9 @@ void BRDuplicateFilesViewController::removeFileAtPath(const QString &path, const
     const GroupRecord *record = m_results->groups().find(key);
     if (!record)
         return;
-    showAlert(QStringLiteral("File does not exist"),
-              record->fileName + QStringLiteral(" does not exist"));
+    showAlert(QCoreApplication::translate("BRDuplicateFilesViewController", "File does not exist"),
+              QCoreApplication::translate("BRDuplicateFilesViewController", "%1 does not exist")
+                  .arg(record->fileName));
     m_results->dropVanishedCopy(key, path);
     if (m_results->groups().isEmpty())
         showDuplicateStatusView();

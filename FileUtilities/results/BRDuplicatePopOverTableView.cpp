@@ -5,6 +5,7 @@
 #include "BRDuplicateFilePreviewTableViewCell.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -14,7 +15,7 @@ BRDuplicatePopOverTableView::BRDuplicatePopOverTableView(QWidget *parent)
       m_rowLayout(new QVBoxLayout(m_rowContainer))
 {
     setObjectName(QStringLiteral("dupePreviewTableView"));
-    setAccessibleName(QStringLiteral("Copies"));
+    setAccessibleName(QCoreApplication::translate("BRDuplicatePopOverTableView", "Copies"));
     // The rows take the focus, one by one; the list around them does not.
     setFocusPolicy(Qt::NoFocus);
     setViewport(new BRDuplicateFilePreviewTableCustomClipView(this));

@@ -10,6 +10,7 @@
 #include "OpenPanel.h"
 #include "ViewFader.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QFutureWatcher>
@@ -37,7 +38,9 @@ BRDuplicateScanStartViewController::BRDuplicateScanStartViewController(OpenPanel
     : BRDuplicateScanStartView(parent), m_openPanel(openPanel), m_dirImageView(new QLabel(this)),
       m_selectedFolderNameLabel(new QLabel(this)),
       m_startScanButton(new BRDuplicateStartScanButton(this)),
-      m_browseButton(new QPushButton(QStringLiteral("Choose Folder…"), this))
+      m_browseButton(new QPushButton(
+          QCoreApplication::translate("BRDuplicateScanStartViewController", "Choose Folder…"),
+          this))
 {
     setObjectName(QStringLiteral("BRDuplicateScanStartViewController"));
     m_dirImageView->setObjectName(QStringLiteral("dirImageView"));
@@ -47,7 +50,8 @@ BRDuplicateScanStartViewController::BRDuplicateScanStartViewController(OpenPanel
 
     m_dirImageView->setFixedSize(previewSide, previewSide);
     m_dirImageView->setAlignment(Qt::AlignCenter);
-    m_dirImageView->setAccessibleName(QStringLiteral("Chosen folder"));
+    m_dirImageView->setAccessibleName(
+        QCoreApplication::translate("BRDuplicateScanStartViewController", "Chosen folder"));
     m_selectedFolderNameLabel->setAlignment(Qt::AlignCenter);
     m_selectedFolderNameLabel->setTextFormat(Qt::PlainText);
     Look::setTextStyle(m_selectedFolderNameLabel, 23, QFont::Normal, Look::Color::PrimaryText);
@@ -87,7 +91,8 @@ void BRDuplicateScanStartViewController::setDuplicateMainViewDelegate(
 
 void BRDuplicateScanStartViewController::setScanStartView()
 {
-    setStartScanButtonTitle(QStringLiteral("Start Scan"));
+    setStartScanButtonTitle(
+        QCoreApplication::translate("BRDuplicateScanStartViewController", "Start Scan"));
     // Without a password entry the home the environment names is the best there is.
     const QString home = BRRealHomeDirectory::RealHomeDirectory().value_or(QDir::homePath());
     const QUrl url = QUrl::fromLocalFile(home);

@@ -6,13 +6,16 @@
 #include "Look.h"
 #include "ViewFader.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QVBoxLayout>
 
 BRDuplicateScanStatusViewController::BRDuplicateScanStatusViewController(QWidget *parent)
     : BRDuplicateStatusView(parent),
-      m_statusLabel(new QLabel(QStringLiteral("No duplicate files found"), this)),
+      m_statusLabel(new QLabel(QCoreApplication::translate("BRDuplicateScanStatusViewController",
+                                                           "No duplicate files found"),
+                               this)),
       m_directoryLabel(new QLabel(this)),
       m_newScanButton(new BRDuplicateStatusViewNewScanButton(this))
 {
@@ -41,7 +44,8 @@ BRDuplicateScanStatusViewController::BRDuplicateScanStatusViewController(QWidget
 
     connect(m_newScanButton, &QPushButton::clicked, this,
             &BRDuplicateScanStatusViewController::startNewScanAction);
-    setNewScanButtonTitle(QStringLiteral("New Scan"));
+    setNewScanButtonTitle(
+        QCoreApplication::translate("BRDuplicateScanStatusViewController", "New Scan"));
 }
 
 void BRDuplicateScanStatusViewController::setNewScanButtonTitle(const QString &title)
@@ -52,7 +56,9 @@ void BRDuplicateScanStatusViewController::setNewScanButtonTitle(const QString &t
 
 void BRDuplicateScanStatusViewController::showFolderName(const QString &folderName)
 {
-    m_directoryLabel->setText(QStringLiteral("in \"") + folderName + u'"');
+    m_directoryLabel->setText(
+        QCoreApplication::translate("BRDuplicateScanStatusViewController", "in \"%1\"")
+            .arg(folderName));
 }
 
 // This screen stays faded out while it is out of sight; the duplicate side brings it

@@ -16,6 +16,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <QCoreApplication>
 #include <optional>
 
 namespace {
@@ -117,19 +118,25 @@ QStringList BRDuplicateSortViewController::sortTypes()
 
 BRDuplicateSortViewController::BRDuplicateSortViewController(QWidget *parent)
     : QWidget(parent), m_allButton(makeChoiceButton(QStringLiteral("allButton"), this)),
-      m_photoButton(makeImageButton(QStringLiteral("photoButton"), QStringLiteral("Photo"), this)),
-      m_documentButton(
-          makeImageButton(QStringLiteral("documentButton"), QStringLiteral("Document"), this)),
-      m_musicButton(
-          makeImageButton(QStringLiteral("musicButton"), QStringLiteral("Music & Videos"), this)),
-      m_folderButton(
-          makeImageButton(QStringLiteral("folderButton"), QStringLiteral("Folder"), this)),
+      m_photoButton(makeImageButton(
+          QStringLiteral("photoButton"),
+          QCoreApplication::translate("BRDuplicateSortViewController", "Photo"), this)),
+      m_documentButton(makeImageButton(
+          QStringLiteral("documentButton"),
+          QCoreApplication::translate("BRDuplicateSortViewController", "Document"), this)),
+      m_musicButton(makeImageButton(
+          QStringLiteral("musicButton"),
+          QCoreApplication::translate("BRDuplicateSortViewController", "Music & Videos"), this)),
+      m_folderButton(makeImageButton(
+          QStringLiteral("folderButton"),
+          QCoreApplication::translate("BRDuplicateSortViewController", "Folder"), this)),
       m_newScanButton(makeTitleButton(QStringLiteral("newScanButton"), this)),
       m_sortByButton(new BRDuplicateSortPopUpButton(this))
 {
     setObjectName(QStringLiteral("BRDuplicateSortViewController"));
     m_sortByButton->setObjectName(QStringLiteral("sortByButton"));
-    m_sortByButton->setAccessibleName(QStringLiteral("Sort By"));
+    m_sortByButton->setAccessibleName(
+        QCoreApplication::translate("BRDuplicateSortViewController", "Sort By"));
     m_sortByButton->addItems(sortTypes());
     m_allButton->setMinimumWidth(44);
 
@@ -189,7 +196,8 @@ void BRDuplicateSortViewController::setDuplicateFileViewDelegate(
 
 void BRDuplicateSortViewController::setButtonTextColor()
 {
-    applyTitle(m_newScanButton, QStringLiteral("New"), Look::Color::PrimaryText);
+    applyTitle(m_newScanButton, QCoreApplication::translate("BRDuplicateSortViewController", "New"),
+               Look::Color::PrimaryText);
     applyLook(allKey, true);
 }
 
@@ -315,7 +323,7 @@ QToolButton *BRDuplicateSortViewController::imageButtonForKey(const QString &key
 void BRDuplicateSortViewController::applyLook(const QString &key, bool selected)
 {
     if (key == allKey) {
-        applyTitle(m_allButton, QStringLiteral("All"),
+        applyTitle(m_allButton, QCoreApplication::translate("BRDuplicateSortViewController", "All"),
                    selected ? Look::Color::DuplicatesAccent : Look::Color::SecondaryText);
         m_allButton->setChecked(selected);
     } else if (const auto images = imagesForKey(key)) {

@@ -3,6 +3,7 @@
 #include "BRDuplicateSortViewDelegate.h"
 #include "SortOrder.h"
 
+#include <QCoreApplication>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -23,7 +24,10 @@ class BRDuplicateSortViewController : public QWidget, public BRDuplicateSortView
 
 public:
     // The placeholder the menu shows from the start of a scan until it is first opened.
-    static QString sortByTitle() { return QStringLiteral("Sort By"); }
+    static QString sortByTitle()
+    {
+        return QCoreApplication::translate("BRDuplicateSortViewController", "Sort By");
+    }
     // The menu's items, one per order.
     static QStringList sortTypes();
 

@@ -9,6 +9,7 @@
 #include "UniformTypes.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -142,8 +143,10 @@ void BRDuplicateTableViewCell::paintGroup(QPainter *painter, const QRect &rect,
         painter->drawText(QRect(column.left(), middle - 4, column.width(), 22),
                           Qt::AlignRight | Qt::AlignVCenter, value);
     };
-    drawColumn(sizeColumn, QStringLiteral("Each copy"), texts.fileSize);
-    drawColumn(totalColumn, QStringLiteral("All copies"), texts.totalSize);
+    drawColumn(sizeColumn, QCoreApplication::translate("BRDuplicateTableViewCell", "Each copy"),
+               texts.fileSize);
+    drawColumn(totalColumn, QCoreApplication::translate("BRDuplicateTableViewCell", "All copies"),
+               texts.totalSize);
 
     // The kind bullet carries the number of copies.
     const QRect bulletRect(sizeColumn.left() - 24 - bulletSide,

@@ -2,11 +2,13 @@
 
 #include "Look.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 QString BRNoSearchResultCell::text()
 {
-    return QStringLiteral("No duplicate files match your search");
+    return QCoreApplication::translate("BRNoSearchResultCell",
+                                       "No duplicate files match your search");
 }
 
 void BRNoSearchResultCell::paint(QPainter *painter, const QRect &rect, const QString &text)

@@ -3,6 +3,7 @@
 #include "ResultsLog.h"
 #include "Workspace.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QFutureWatcher>
 #include <QPointer>
@@ -106,15 +107,23 @@ QString CopyRemoval::sentence(Outcome outcome, const QString &name)
     const QString quoted = u'\u201C' + name + u'\u201D';
     switch (outcome) {
     case Outcome::Changed:
-        return quoted + QStringLiteral(" has changed since the scan, so it was kept.");
+        return QCoreApplication::translate("CopyRemoval",
+                                           "%1 has changed since the scan, so it was kept.")
+            .arg(quoted);
     case Outcome::LastCopy:
-        return quoted + QStringLiteral(" is the last copy left in this group, so it was kept.");
+        return QCoreApplication::translate(
+                   "CopyRemoval", "%1 is the last copy left in this group, so it was kept.")
+            .arg(quoted);
     case Outcome::NotACopy:
-        return quoted + QStringLiteral(" is not an exact copy of the other files in this group, "
-                                       "so it was kept.");
+        return QCoreApplication::translate(
+                   "CopyRemoval",
+                   "%1 is not an exact copy of the other files in this group, so it was kept.")
+            .arg(quoted);
     case Outcome::Unreadable:
-        return quoted + QStringLiteral(" could not be compared with the other files in this "
-                                       "group, so it was kept.");
+        return QCoreApplication::translate(
+                   "CopyRemoval",
+                   "%1 could not be compared with the other files in this group, so it was kept.")
+            .arg(quoted);
     case Outcome::Trashed:
     case Outcome::Vanished:
     case Outcome::TrashRefused:

@@ -5,8 +5,10 @@
 #include "BRNoSubTypeFoundCell.h"
 #include "ByteCountFormatter.h"
 #include "DuplicateResults.h"
+#include "Translations.h"
 #include "UserLocale.h"
 
+#include <QCoreApplication>
 #include <QSize>
 
 DuplicateTableModel::DuplicateTableModel(const DuplicateResults &results, QObject *parent)
@@ -89,16 +91,20 @@ QString DuplicateTableModel::accessibleDescription(const GroupRecord &record)
     const qsizetype copies = record.filePath.size();
     QStringList parts;
     parts.append(copies == 1
-                     ? QStringLiteral("1 copy")
-                     : QStringLiteral("%1 copies")
+                     ? QCoreApplication::translate("DuplicateTableModel", "1 copy")
+                     : QCoreApplication::translate("DuplicateTableModel", "%1 copies", nullptr,
+                                                   pluralCount(copies))
                            .arg(UserLocale::forDisplay().toString(static_cast<qlonglong>(copies))));
     if (!record.fileType.isEmpty())
         parts.append(record.fileType);
-    parts.append(ByteCountFormatter::binary(record.fileSize) + QStringLiteral(" each"));
-    parts.append(ByteCountFormatter::binary(record.totalSize) + QStringLiteral(" in all"));
+    parts.append(QCoreApplication::translate("DuplicateTableModel", "%1 each")
+                     .arg(ByteCountFormatter::binary(record.fileSize)));
+    parts.append(QCoreApplication::translate("DuplicateTableModel", "%1 in all")
+                     .arg(ByteCountFormatter::binary(record.totalSize)));
     // Every copy but one can go.
-    parts.append(ByteCountFormatter::binary(qMax<qint64>(0, record.totalSize - record.fileSize)) +
-                 QStringLiteral(" reclaimable"));
+    parts.append(
+        QCoreApplication::translate("DuplicateTableModel", "%1 reclaimable")
+            .arg(ByteCountFormatter::binary(qMax<qint64>(0, record.totalSize - record.fileSize))));
     return parts.join(QStringLiteral(", "));
 }
 

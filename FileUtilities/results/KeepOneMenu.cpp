@@ -1,6 +1,7 @@
 #include "KeepOneMenu.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMenu>
 #include <QToolButton>
 
@@ -14,11 +15,15 @@ QMenu *make(QWidget *parent, bool offerFolder, const std::function<void(KeepOneP
         QAction *action = menu->addAction(text);
         QObject::connect(action, &QAction::triggered, menu, [chosen, rule] { chosen(rule); });
     };
-    add(QStringLiteral("Keep the Oldest Copy"), KeepOnePlan::Rule::Oldest);
-    add(QStringLiteral("Keep the Newest Copy"), KeepOnePlan::Rule::Newest);
-    add(QStringLiteral("Keep the Copy with the Shortest Path"), KeepOnePlan::Rule::ShortestPath);
+    add(QCoreApplication::translate("KeepOneMenu", "Keep the Oldest Copy"),
+        KeepOnePlan::Rule::Oldest);
+    add(QCoreApplication::translate("KeepOneMenu", "Keep the Newest Copy"),
+        KeepOnePlan::Rule::Newest);
+    add(QCoreApplication::translate("KeepOneMenu", "Keep the Copy with the Shortest Path"),
+        KeepOnePlan::Rule::ShortestPath);
     if (offerFolder)
-        add(QStringLiteral("Keep the Copy in a Folder\u2026"), KeepOnePlan::Rule::InFolder);
+        add(QCoreApplication::translate("KeepOneMenu", "Keep the Copy in a Folder…"),
+            KeepOnePlan::Rule::InFolder);
     return menu;
 }
 
@@ -27,10 +32,12 @@ QToolButton *makeButton(QWidget *parent, const QString &scope, bool offerFolder,
 {
     auto *button = new QToolButton(parent);
     button->setObjectName(QStringLiteral("keepOneButton"));
-    button->setText(QStringLiteral("Keep One"));
-    button->setAccessibleName(QStringLiteral("Keep one copy of ") + scope);
-    button->setToolTip(QStringLiteral("Keep one copy of ") + scope +
-                       QStringLiteral(" and move the others to the Trash"));
+    button->setText(QCoreApplication::translate("KeepOneMenu", "Keep One"));
+    button->setAccessibleName(
+        QCoreApplication::translate("KeepOneMenu", "Keep one copy of %1").arg(scope));
+    button->setToolTip(QCoreApplication::translate(
+                           "KeepOneMenu", "Keep one copy of %1 and move the others to the Trash")
+                           .arg(scope));
     button->setPopupMode(QToolButton::InstantPopup);
     button->setMenu(make(button, offerFolder, chosen));
     return button;
@@ -40,13 +47,13 @@ QString ruleText(KeepOnePlan::Rule rule, const QString &folderName)
 {
     switch (rule) {
     case KeepOnePlan::Rule::Oldest:
-        return QStringLiteral("the oldest");
+        return QCoreApplication::translate("KeepOneMenu", "the oldest");
     case KeepOnePlan::Rule::Newest:
-        return QStringLiteral("the newest");
+        return QCoreApplication::translate("KeepOneMenu", "the newest");
     case KeepOnePlan::Rule::ShortestPath:
-        return QStringLiteral("the one with the shortest path");
+        return QCoreApplication::translate("KeepOneMenu", "the one with the shortest path");
     case KeepOnePlan::Rule::InFolder:
-        return QStringLiteral("the one in \u201C%1\u201D").arg(folderName);
+        return QCoreApplication::translate("KeepOneMenu", "the one in “%1”").arg(folderName);
     }
     return QString();
 }

@@ -2,7 +2,9 @@
 
 #include "DesktopNotifier.h"
 #include "ResultsLog.h"
+#include "Translations.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -75,16 +77,29 @@ void ScanAttention::scanFinished(qint64 duplicatesFound, bool windowActive,
 
 QString ScanAttention::summary()
 {
-    return QStringLiteral("Duplicate files scan complete.");
+    return QCoreApplication::translate("ScanAttention", "Duplicate files scan complete.");
 }
 
 QString ScanAttention::body(qint64 duplicatesFound, const QString &folderName)
 {
-    const QString where = folderName.isEmpty() ? QString() : QStringLiteral(" in ") + folderName;
+    // Whole sentences, so that each language may put the folder where it reads well.
+    const int count = pluralCount(duplicatesFound);
+    if (folderName.isEmpty()) {
+        if (duplicatesFound == 0)
+            return QCoreApplication::translate("ScanAttention", "No duplicate files found.");
+        return duplicatesFound == 1
+                   ? QCoreApplication::translate("ScanAttention", "%n duplicate file found.",
+                                                 nullptr, count)
+                   : QCoreApplication::translate("ScanAttention", "%n duplicate files found.",
+                                                 nullptr, count);
+    }
     if (duplicatesFound == 0)
-        return QStringLiteral("No duplicate files found") + where + u'.';
-    return QString::number(duplicatesFound) +
-           (duplicatesFound == 1 ? QStringLiteral(" duplicate file found")
-                                 : QStringLiteral(" duplicate files found")) +
-           where + u'.';
+        return QCoreApplication::translate("ScanAttention", "No duplicate files found in %1.")
+            .arg(folderName);
+    return (duplicatesFound == 1
+                ? QCoreApplication::translate("ScanAttention", "%n duplicate file found in %1.",
+                                              nullptr, count)
+                : QCoreApplication::translate("ScanAttention", "%n duplicate files found in %1.",
+                                              nullptr, count))
+        .arg(folderName);
 }

@@ -1,16 +1,17 @@
 #include "SortOrder.h"
+#include <QCoreApplication>
 
 QString sortOrderTitle(SortOrder order)
 {
     switch (order) {
     case SortOrder::All:
-        return QStringLiteral("All");
+        return QCoreApplication::translate("SortOrder", "All");
     case SortOrder::Name:
-        return QStringLiteral("Name");
+        return QCoreApplication::translate("SortOrder", "Name");
     case SortOrder::Size:
-        return QStringLiteral("Size");
+        return QCoreApplication::translate("SortOrder", "Size");
     case SortOrder::Type:
-        return QStringLiteral("Type");
+        return QCoreApplication::translate("SortOrder", "Type");
     }
     Q_UNREACHABLE();
     return {};

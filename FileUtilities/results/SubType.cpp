@@ -1,18 +1,19 @@
 #include "SubType.h"
+#include <QCoreApplication>
 
 QString subTypeName(SubType subType)
 {
     switch (subType) {
     case SubType::All:
-        return QStringLiteral("All");
+        return QCoreApplication::translate("SubType", "All");
     case SubType::Photo:
-        return QStringLiteral("Photo");
+        return QCoreApplication::translate("SubType", "Photo");
     case SubType::Music:
-        return QStringLiteral("Music");
+        return QCoreApplication::translate("SubType", "Music");
     case SubType::Document:
-        return QStringLiteral("Document");
+        return QCoreApplication::translate("SubType", "Document");
     case SubType::Folder:
-        return QStringLiteral("Folder");
+        return QCoreApplication::translate("SubType", "Folder");
     }
     Q_UNREACHABLE();
     return {};

@@ -5,6 +5,7 @@
 #include "BRObjectClass.h"
 #include "Look.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -29,11 +30,15 @@ BRAboutViewController::BRAboutViewController(Workspace &workspace, QWidget *pare
     : BRImageBackgroundView(QStringLiteral("intro_bg"), Tone::Dark, parent),
       m_versionLabel(new QLabel(versionText(), this)),
       m_contactSupportButton(makeLinkButton<BRAboutScreenContactAndTermsOfUseButton>(
-          QStringLiteral("contactSupportButton"), QStringLiteral("Contact Support"), 17, this)),
+          QStringLiteral("contactSupportButton"),
+          QCoreApplication::translate("BRAboutViewController", "Contact Support"), 17, this)),
       m_termsOfUseButton(makeLinkButton<BRAboutScreenContactAndTermsOfUseButton>(
-          QStringLiteral("termsOfUseButton"), QStringLiteral("Terms of Use"), 17, this)),
+          QStringLiteral("termsOfUseButton"),
+          QCoreApplication::translate("BRAboutViewController", "Terms of Use"), 17, this)),
       m_urlButton(makeLinkButton<BRAboutScreenMoreAppsButton>(
-          QStringLiteral("urlButton"), QStringLiteral("More Apps from Brackenhale"), 19, this))
+          QStringLiteral("urlButton"),
+          QCoreApplication::translate("BRAboutViewController", "More Apps from Brackenhale"), 19,
+          this))
 {
     setObjectName(QStringLiteral("BRAboutViewController"));
     m_versionLabel->setObjectName(QStringLiteral("versionLabel"));
@@ -47,7 +52,7 @@ BRAboutViewController::BRAboutViewController(Workspace &workspace, QWidget *pare
     layout->setContentsMargins(32, 24, 32, 24);
     auto *icon = new QLabel(this);
     icon->setPixmap(QIcon(QStringLiteral(":/images/quillmere.svg")).pixmap(QSize(64, 64)));
-    icon->setAccessibleName(QStringLiteral("Quillmere icon"));
+    icon->setAccessibleName(QCoreApplication::translate("BRAboutViewController", "Quillmere icon"));
     layout->addWidget(icon, 0, Qt::AlignHCenter);
     layout->addWidget(name, 0, Qt::AlignHCenter);
     layout->addWidget(m_versionLabel, 0, Qt::AlignHCenter);
@@ -65,6 +70,6 @@ BRAboutViewController::BRAboutViewController(Workspace &workspace, QWidget *pare
 
 QString BRAboutViewController::versionText()
 {
-    return QStringLiteral("Version ") + QStringLiteral(QUILLMERE_RELEASE_VERSION) +
-           QStringLiteral(" (") + QStringLiteral(QUILLMERE_BUILD_NUMBER) + u')';
+    return QCoreApplication::translate("BRAboutViewController", "Version %1 (%2)")
+        .arg(QStringLiteral(QUILLMERE_RELEASE_VERSION), QStringLiteral(QUILLMERE_BUILD_NUMBER));
 }

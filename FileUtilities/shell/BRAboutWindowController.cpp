@@ -2,13 +2,14 @@
 
 #include "BRAboutViewController.h"
 
+#include <QCoreApplication>
 #include <QVBoxLayout>
 
 BRAboutWindowController::BRAboutWindowController(Workspace &workspace, QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("BRAboutWindowController"));
-    setWindowTitle(QStringLiteral("About Quillmere"));
+    setWindowTitle(QCoreApplication::translate("BRAboutWindowController", "About Quillmere"));
     setModal(true);
     // Only the close button: About neither grows nor hides in the dock.
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |

@@ -3,6 +3,7 @@
 #include "BRIntroGotItButton.h"
 #include "Look.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -12,7 +13,7 @@ BRIntroViewController::BRIntroViewController(QWidget *parent)
 {
     setObjectName(QStringLiteral("BRIntroViewController"));
     m_gotItButton->setObjectName(QStringLiteral("gotItButton"));
-    m_gotItButton->setText(QStringLiteral("Got it!"));
+    m_gotItButton->setText(QCoreApplication::translate("BRIntroViewController", "Got it!"));
     auto *title = new QLabel(tr("Welcome to Quillmere"), this);
     // The colour comes from the picture behind: light on it, dark without it.
     title->setFont(Look::font(24));

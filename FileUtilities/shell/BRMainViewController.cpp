@@ -7,6 +7,7 @@
 #include "ChoiceToolButton.h"
 #include "Look.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -44,10 +45,12 @@ BRMainViewController::BRMainViewController(AlertPresenter &alerts, QWidget *dupl
       m_tabViewController(new BRTabViewController(duplicatesSide, renameSide, this)),
       m_duplicateButton(makeTitleButton(QStringLiteral("duplicateButton"), this)),
       m_renameButton(makeTitleButton(QStringLiteral("renameButton"), this)),
-      m_duplicateImageButton(makeImageButton(QStringLiteral("duplicateImageButton"),
-                                             QStringLiteral("Duplicates"), this)),
+      m_duplicateImageButton(
+          makeImageButton(QStringLiteral("duplicateImageButton"),
+                          QCoreApplication::translate("BRMainViewController", "Duplicates"), this)),
       m_renameImageButton(
-          makeImageButton(QStringLiteral("renameImageButton"), QStringLiteral("Rename"), this))
+          makeImageButton(QStringLiteral("renameImageButton"),
+                          QCoreApplication::translate("BRMainViewController", "Rename"), this))
 {
     setObjectName(QStringLiteral("BRMainViewController"));
     // The tab titles are light on purpose: they stand on a dark bar across the window.
@@ -123,10 +126,14 @@ void BRMainViewController::changeRenameButtonImageAndTitleColor()
         return;
     }
     const int answer = m_alerts.runModal(
-        {QStringLiteral("Stop duplicate files scan & switch to rename?"),
-         QStringLiteral("Duplicate files scanning is in progress. Do you want to stop the scan "
-                        "and switch to renaming files?"),
-         {QStringLiteral("Stop scan"), QStringLiteral("Cancel")}});
+        {QCoreApplication::translate("BRMainViewController",
+                                     "Stop duplicate files scan & switch to rename?"),
+         QCoreApplication::translate(
+             "BRMainViewController",
+             "Duplicate files scanning is in progress. Do you want to stop the scan "
+             "and switch to renaming files?"),
+         {QCoreApplication::translate("BRMainViewController", "Stop scan"),
+          QCoreApplication::translate("BRMainViewController", "Cancel")}});
     if (answer == AlertPresenter::firstButton) {
         if (m_duplicateMainViewDelegate)
             m_duplicateMainViewDelegate->updateDuplicateScanStatus(true);
@@ -152,9 +159,11 @@ void BRMainViewController::showTool(bool duplicates)
                                                       : QStringLiteral("duplicates_icon"));
     setButtonImage(m_renameImageButton, duplicates ? QStringLiteral("rename_icon")
                                                    : QStringLiteral("rename_icon_selected"));
-    setButtonTitleAndColor(m_duplicateButton, QStringLiteral("Duplicates"),
+    setButtonTitleAndColor(m_duplicateButton,
+                           QCoreApplication::translate("BRMainViewController", "Duplicates"),
                            duplicates ? selectedTitleColor() : unselectedTitleColor());
-    setButtonTitleAndColor(m_renameButton, QStringLiteral("Rename"),
+    setButtonTitleAndColor(m_renameButton,
+                           QCoreApplication::translate("BRMainViewController", "Rename"),
                            duplicates ? unselectedTitleColor() : selectedTitleColor());
     m_duplicateButton->setChecked(duplicates);
     m_duplicateImageButton->setChecked(duplicates);

@@ -10,6 +10,7 @@
 #include "RenameList.h"
 #include "ShellCommandLine.h"
 #include "ToolTipDelayStyle.h"
+#include "Translations.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -53,6 +54,8 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("app.brackenhale.Quillmere"));
+    // Before any window or text exists, so that every text is in the user's language.
+    Translations::install(application, QLocale());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/quillmere.svg")));
     // Outside a desktop session Qt knows no icon theme; the installed Adwaita stands in,
     // so file types and the search field still get their icons.

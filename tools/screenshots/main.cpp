@@ -5,9 +5,10 @@
 // drives the real window with scripted dialogs and grabs each screen, so no display or
 // window manager is needed.
 //
-// Usage: quillmere-screenshots [--scale FACTOR] [--dark] [OUTPUT_FOLDER]
+// Usage: quillmere-screenshots [--scale FACTOR] [--dark] [--language de|fr] [OUTPUT_FOLDER]
 //   --scale 2   every screen at twice the pixels, as on a screen of high density
 //   --dark      Qt's Fusion style with a dark palette, as under a dark desktop theme
+//   --language  the German or French translation
 //   OUTPUT_FOLDER defaults to "screenshots"
 
 #include "AppDelegate.h"
@@ -34,6 +35,8 @@
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
 #include "ScriptedWorkspace.h"
+
+#include "Translations.h"
 
 #include <QApplication>
 #include <QDate>
@@ -121,6 +124,7 @@ struct Options
 {
     QByteArray scale = "1";
     bool dark = false;
+    QString language = {};
     QString output = QStringLiteral("screenshots");
     QString error = {};
 };
@@ -132,6 +136,8 @@ Options readOptions(int argc, char *argv[])
         const QByteArray argument(argv[i]);
         if (argument == "--dark") {
             options.dark = true;
+        } else if (argument == "--language" && i + 1 < argc) {
+            options.language = QString::fromLocal8Bit(argv[++i]);
         } else if (argument == "--scale" && i + 1 < argc) {
             options.scale = argv[++i];
             bool isNumber = false;
@@ -414,6 +420,15 @@ int main(int argc, char *argv[])
                                            QStandardPaths::LocateDirectory);
         QIcon::setThemeSearchPaths(paths);
         QIcon::setThemeName(u"Adwaita"_s);
+    }
+    // Every screen in that language, as a German or French desktop shows it.
+    if (!options.language.isEmpty()) {
+        if (!Translations::install(application, QLocale(options.language))) {
+            std::fprintf(stderr, "quillmere-screenshots: no translation for \"%s\"\n",
+                         qPrintable(options.language));
+            return 2;
+        }
+        QLocale::setDefault(QLocale(options.language));
     }
     const QString &output = options.output;
     if (!QDir().mkpath(output)) {
