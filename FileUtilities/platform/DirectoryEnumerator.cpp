@@ -142,8 +142,10 @@ void DirectoryEnumerator::enter(FolderToEnter target)
     const int parentFd = m_openFolders.back().listing.descriptor();
     int fd = parentFd >= 0 ? ::openat(parentFd, target.nativeName.constData(), folderFlags) : -1;
     if (fd < 0 && (parentFd < 0 || errno == EMFILE || errno == ENFILE)) {
-        // Out of descriptors in a very deep tree: the parents give theirs up, and the rest
-        // of the walk opens folders by their full paths.
+        // Out of descriptors in a very deep tree: reading ahead stops and gives back what it
+        // holds, the parents give theirs up, and the rest of the walk opens folders by their
+        // full paths.
+        m_prefetcher.reset();
         for (OpenFolder &open : m_openFolders)
             open.listing.closeDescriptor();
         fd = ::open(target.nativePath.constData(), folderFlags);
