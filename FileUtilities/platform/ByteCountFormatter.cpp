@@ -2,6 +2,8 @@
 
 #include "UserLocale.h"
 
+#include <QCoreApplication>
+
 QString ByteCountFormatter::binary(qint64 bytes)
 {
     return UserLocale::forDisplay().formattedDataSize(bytes, 1, QLocale::DataSizeIecFormat);
@@ -10,6 +12,10 @@ QString ByteCountFormatter::binary(qint64 bytes)
 QString ByteCountFormatter::wholeBytes(qint64 bytes)
 {
     const QString digits = UserLocale::forDisplay().toString(bytes);
-    return digits +
-           (bytes == 1 || bytes == -1 ? QStringLiteral(" byte") : QStringLiteral(" bytes"));
+    // Two whole texts rather than a plural form: the digits carry the display locale's
+    // grouping, which %n would not.
+    return (bytes == 1 || bytes == -1
+                ? QCoreApplication::translate("ByteCountFormatter", "%1 byte")
+                : QCoreApplication::translate("ByteCountFormatter", "%1 bytes"))
+        .arg(digits);
 }

@@ -103,11 +103,17 @@
     </message>
     <message numerus="yes">
         <source>%1 item scanned</source>
-        <translation><numerusform>%1 Objekt durchsucht</numerusform><numerusform>%1 Objekte durchsucht</numerusform></translation>
+        <translation>
+            <numerusform>%1 Objekt durchsucht</numerusform>
+            <numerusform>%1 Objekte durchsucht</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%1 items scanned</source>
-        <translation><numerusform>%1 Objekt durchsucht</numerusform><numerusform>%1 Objekte durchsucht</numerusform></translation>
+        <translation>
+            <numerusform>%1 Objekt durchsucht</numerusform>
+            <numerusform>%1 Objekte durchsucht</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 copies checked</source>
@@ -236,19 +242,31 @@
     </message>
     <message numerus="yes">
         <source>One copy of each of %n group stays: %1.</source>
-        <translation><numerusform>In %n Gruppe bleibt eine Kopie: %1.</numerusform><numerusform>In jeder der %n Gruppen bleibt eine Kopie: %1.</numerusform></translation>
+        <translation>
+            <numerusform>In %n Gruppe bleibt eine Kopie: %1.</numerusform>
+            <numerusform>In jeder der %n Gruppen bleibt eine Kopie: %1.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>One copy of each of %n groups stays: %1.</source>
-        <translation><numerusform>In %n Gruppe bleibt eine Kopie: %1.</numerusform><numerusform>In jeder der %n Gruppen bleibt eine Kopie: %1.</numerusform></translation>
+        <translation>
+            <numerusform>In %n Gruppe bleibt eine Kopie: %1.</numerusform>
+            <numerusform>In jeder der %n Gruppen bleibt eine Kopie: %1.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n file goes to the Trash and frees %1.</source>
-        <translation><numerusform>%n Datei kommt in den Papierkorb und gibt %1 frei.</numerusform><numerusform>%n Dateien kommen in den Papierkorb und geben %1 frei.</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei kommt in den Papierkorb und gibt %1 frei.</numerusform>
+            <numerusform>%n Dateien kommen in den Papierkorb und geben %1 frei.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n files go to the Trash and free %1.</source>
-        <translation><numerusform>%n Datei kommt in den Papierkorb und gibt %1 frei.</numerusform><numerusform>%n Dateien kommen in den Papierkorb und geben %1 frei.</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei kommt in den Papierkorb und gibt %1 frei.</numerusform>
+            <numerusform>%n Dateien kommen in den Papierkorb und geben %1 frei.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Each is compared with the copy that stays before it goes.</source>
@@ -256,11 +274,17 @@
     </message>
     <message numerus="yes">
         <source>Move %n file to the Trash?</source>
-        <translation><numerusform>%n Datei in den Papierkorb verschieben?</numerusform><numerusform>%n Dateien in den Papierkorb verschieben?</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei in den Papierkorb verschieben?</numerusform>
+            <numerusform>%n Dateien in den Papierkorb verschieben?</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Move %n files to the Trash?</source>
-        <translation><numerusform>%n Datei in den Papierkorb verschieben?</numerusform><numerusform>%n Dateien in den Papierkorb verschieben?</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei in den Papierkorb verschieben?</numerusform>
+            <numerusform>%n Dateien in den Papierkorb verschieben?</numerusform>
+        </translation>
     </message>
     <message>
         <source>Move to Trash</source>
@@ -280,7 +304,10 @@
     </message>
     <message numerus="yes">
         <source>%n files were kept: they had changed since the scan.</source>
-        <translation><numerusform>%n Datei wurde behalten: Sie hat sich seit der Suche geändert.</numerusform><numerusform>%n Dateien wurden behalten: Sie haben sich seit der Suche geändert.</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei wurde behalten: Sie hat sich seit der Suche geändert.</numerusform>
+            <numerusform>%n Dateien wurden behalten: Sie haben sich seit der Suche geändert.</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was kept: it is not an exact copy of the one that stays.</source>
@@ -288,7 +315,10 @@
     </message>
     <message numerus="yes">
         <source>%n files were kept: they are not exact copies of the ones that stay.</source>
-        <translation><numerusform>%n Datei wurde behalten: Sie ist keine exakte Kopie der bleibenden.</numerusform><numerusform>%n Dateien wurden behalten: Sie sind keine exakten Kopien der bleibenden.</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei wurde behalten: Sie ist keine exakte Kopie der bleibenden.</numerusform>
+            <numerusform>%n Dateien wurden behalten: Sie sind keine exakten Kopien der bleibenden.</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was kept: the copy meant to stay is gone.</source>
@@ -296,7 +326,10 @@
     </message>
     <message numerus="yes">
         <source>%n files were kept: the copies meant to stay are gone.</source>
-        <translation><numerusform>%n Datei wurde behalten: Die Kopie, die bleiben sollte, ist nicht mehr da.</numerusform><numerusform>%n Dateien wurden behalten: Die Kopien, die bleiben sollten, sind nicht mehr da.</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei wurde behalten: Die Kopie, die bleiben sollte, ist nicht mehr da.</numerusform>
+            <numerusform>%n Dateien wurden behalten: Die Kopien, die bleiben sollten, sind nicht mehr da.</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was kept: it could not be compared.</source>
@@ -304,7 +337,10 @@
     </message>
     <message numerus="yes">
         <source>%n files were kept: they could not be compared.</source>
-        <translation><numerusform>%n Datei wurde behalten: Sie konnte nicht verglichen werden.</numerusform><numerusform>%n Dateien wurden behalten: Sie konnten nicht verglichen werden.</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei wurde behalten: Sie konnte nicht verglichen werden.</numerusform>
+            <numerusform>%n Dateien wurden behalten: Sie konnten nicht verglichen werden.</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was kept: %1</source>
@@ -312,7 +348,10 @@
     </message>
     <message numerus="yes">
         <source>%n files were kept. The first: </source>
-        <translation><numerusform>%n Datei wurde behalten. Die erste: </numerusform><numerusform>%n Dateien wurden behalten. Die erste: </numerusform></translation>
+        <translation>
+            <numerusform>%n Datei wurde behalten. Die erste: </numerusform>
+            <numerusform>%n Dateien wurden behalten. Die erste: </numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was gone already.</source>
@@ -320,7 +359,10 @@
     </message>
     <message numerus="yes">
         <source>%n files were gone already.</source>
-        <translation><numerusform>%n Datei war bereits nicht mehr vorhanden.</numerusform><numerusform>%n Dateien waren bereits nicht mehr vorhanden.</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei war bereits nicht mehr vorhanden.</numerusform>
+            <numerusform>%n Dateien waren bereits nicht mehr vorhanden.</numerusform>
+        </translation>
     </message>
     <message>
         <source>No files were moved to the Trash</source>
@@ -340,35 +382,59 @@
     </message>
     <message numerus="yes">
         <source>%n duplicate files found.</source>
-        <translation><numerusform>%n doppelte Datei gefunden.</numerusform><numerusform>%n doppelte Dateien gefunden.</numerusform></translation>
+        <translation>
+            <numerusform>%n doppelte Datei gefunden.</numerusform>
+            <numerusform>%n doppelte Dateien gefunden.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n group has no copy in “%1” and is left whole.</source>
-        <translation><numerusform>%n Gruppe hat keine Kopie in „%1“ und bleibt vollständig.</numerusform><numerusform>%n Gruppen haben keine Kopie in „%1“ und bleiben vollständig.</numerusform></translation>
+        <translation>
+            <numerusform>%n Gruppe hat keine Kopie in „%1“ und bleibt vollständig.</numerusform>
+            <numerusform>%n Gruppen haben keine Kopie in „%1“ und bleiben vollständig.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n groups have no copy in “%1” and are left whole.</source>
-        <translation><numerusform>%n Gruppe hat keine Kopie in „%1“ und bleibt vollständig.</numerusform><numerusform>%n Gruppen haben keine Kopie in „%1“ und bleiben vollständig.</numerusform></translation>
+        <translation>
+            <numerusform>%n Gruppe hat keine Kopie in „%1“ und bleibt vollständig.</numerusform>
+            <numerusform>%n Gruppen haben keine Kopie in „%1“ und bleiben vollständig.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n group had no copy in “%1” and was left whole.</source>
-        <translation><numerusform>%n Gruppe hatte keine Kopie in „%1“ und blieb vollständig.</numerusform><numerusform>%n Gruppen hatten keine Kopie in „%1“ und blieben vollständig.</numerusform></translation>
+        <translation>
+            <numerusform>%n Gruppe hatte keine Kopie in „%1“ und blieb vollständig.</numerusform>
+            <numerusform>%n Gruppen hatten keine Kopie in „%1“ und blieben vollständig.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n groups had no copy in “%1” and were left whole.</source>
-        <translation><numerusform>%n Gruppe hatte keine Kopie in „%1“ und blieb vollständig.</numerusform><numerusform>%n Gruppen hatten keine Kopie in „%1“ und blieben vollständig.</numerusform></translation>
+        <translation>
+            <numerusform>%n Gruppe hatte keine Kopie in „%1“ und blieb vollständig.</numerusform>
+            <numerusform>%n Gruppen hatten keine Kopie in „%1“ und blieben vollständig.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Stopped: %n file was not checked and stayed.</source>
-        <translation><numerusform>Angehalten: %n Datei wurde nicht geprüft und ist geblieben.</numerusform><numerusform>Angehalten: %n Dateien wurden nicht geprüft und sind geblieben.</numerusform></translation>
+        <translation>
+            <numerusform>Angehalten: %n Datei wurde nicht geprüft und ist geblieben.</numerusform>
+            <numerusform>Angehalten: %n Dateien wurden nicht geprüft und sind geblieben.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Stopped: %n files were not checked and stayed.</source>
-        <translation><numerusform>Angehalten: %n Datei wurde nicht geprüft und ist geblieben.</numerusform><numerusform>Angehalten: %n Dateien wurden nicht geprüft und sind geblieben.</numerusform></translation>
+        <translation>
+            <numerusform>Angehalten: %n Datei wurde nicht geprüft und ist geblieben.</numerusform>
+            <numerusform>Angehalten: %n Dateien wurden nicht geprüft und sind geblieben.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n files were moved to the Trash</source>
-        <translation><numerusform>%n Datei wurde in den Papierkorb verschoben</numerusform><numerusform>%n Dateien wurden in den Papierkorb verschoben</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei wurde in den Papierkorb verschoben</numerusform>
+            <numerusform>%n Dateien wurden in den Papierkorb verschoben</numerusform>
+        </translation>
     </message>
     <message>
         <source>Keep Copies Here</source>
@@ -417,7 +483,7 @@
         <translation>Neue Suche</translation>
     </message>
     <message>
-        <source>in "%1"</source>
+        <source>in &quot;%1&quot;</source>
         <translation>in „%1“</translation>
     </message>
 </context>
@@ -576,19 +642,31 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     </message>
     <message numerus="yes">
         <source>%n files renamed</source>
-        <translation><numerusform>%n Datei umbenannt</numerusform><numerusform>%n Dateien umbenannt</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei umbenannt</numerusform>
+            <numerusform>%n Dateien umbenannt</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>, %n failed</source>
-        <translation><numerusform>, %n fehlgeschlagen</numerusform><numerusform>, %n fehlgeschlagen</numerusform></translation>
+        <translation>
+            <numerusform>, %n fehlgeschlagen</numerusform>
+            <numerusform>, %n fehlgeschlagen</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n files have their old names again</source>
-        <translation><numerusform>%n Datei hat wieder ihren alten Namen</numerusform><numerusform>%n Dateien haben wieder ihre alten Namen</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei hat wieder ihren alten Namen</numerusform>
+            <numerusform>%n Dateien haben wieder ihre alten Namen</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>, %n could not go back</source>
-        <translation><numerusform>, %n konnte nicht zurück</numerusform><numerusform>, %n konnten nicht zurück</numerusform></translation>
+        <translation>
+            <numerusform>, %n konnte nicht zurück</numerusform>
+            <numerusform>, %n konnten nicht zurück</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -660,7 +738,7 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
         <translation>Einige Dateien konnten nicht umbenannt werden</translation>
     </message>
     <message>
-        <source>Some files could not be renamed since they are locked or you don't have permission to modify them.</source>
+        <source>Some files could not be renamed since they are locked or you don&apos;t have permission to modify them.</source>
         <translation>Einige Dateien konnten nicht umbenannt werden, da sie gesperrt sind oder Sie keine Berechtigung haben, sie zu ändern.</translation>
     </message>
     <message>
@@ -673,11 +751,17 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     </message>
     <message numerus="yes">
         <source>Rename %n files</source>
-        <translation><numerusform>%n Datei umbenennen</numerusform><numerusform>%n Dateien umbenennen</numerusform></translation>
+        <translation>
+            <numerusform>%n Datei umbenennen</numerusform>
+            <numerusform>%n Dateien umbenennen</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n more files could not go back either.</source>
-        <translation><numerusform>%n weitere Datei konnte ebenfalls nicht zurück.</numerusform><numerusform>%n weitere Dateien konnten ebenfalls nicht zurück.</numerusform></translation>
+        <translation>
+            <numerusform>%n weitere Datei konnte ebenfalls nicht zurück.</numerusform>
+            <numerusform>%n weitere Dateien konnten ebenfalls nicht zurück.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Add</source>
@@ -705,6 +789,17 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     <message>
         <source>“%1” is not inside your home folder, %2. Choose your home folder or a folder inside it.</source>
         <translation>„%1“ liegt nicht in Ihrem persönlichen Ordner %2. Wählen Sie Ihren persönlichen Ordner oder einen Ordner darin.</translation>
+    </message>
+</context>
+<context>
+    <name>ByteCountFormatter</name>
+    <message>
+        <source>%1 byte</source>
+        <translation>%1 Byte</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Byte</translation>
     </message>
 </context>
 <context>
@@ -746,7 +841,10 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     </message>
     <message numerus="yes">
         <source>%1 copies</source>
-        <translation><numerusform>%1 Kopie</numerusform><numerusform>%1 Kopien</numerusform></translation>
+        <translation>
+            <numerusform>%1 Kopie</numerusform>
+            <numerusform>%1 Kopien</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1005,7 +1103,7 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
         <translation>Der neue Name kann kein Dateiname sein: Er ist kein gültiges UTF-8.</translation>
     </message>
     <message>
-        <source>The new name is longer than this folder's disk allows.</source>
+        <source>The new name is longer than this folder&apos;s disk allows.</source>
         <translation>Der neue Name ist länger, als der Datenträger dieses Ordners erlaubt.</translation>
     </message>
     <message>
@@ -1083,11 +1181,17 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     </message>
     <message numerus="yes">
         <source>%n duplicate file found.</source>
-        <translation><numerusform>%n doppelte Datei gefunden.</numerusform><numerusform>%n doppelte Dateien gefunden.</numerusform></translation>
+        <translation>
+            <numerusform>%n doppelte Datei gefunden.</numerusform>
+            <numerusform>%n doppelte Dateien gefunden.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n duplicate files found.</source>
-        <translation><numerusform>%n doppelte Datei gefunden.</numerusform><numerusform>%n doppelte Dateien gefunden.</numerusform></translation>
+        <translation>
+            <numerusform>%n doppelte Datei gefunden.</numerusform>
+            <numerusform>%n doppelte Dateien gefunden.</numerusform>
+        </translation>
     </message>
     <message>
         <source>No duplicate files found in %1.</source>
@@ -1095,11 +1199,17 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     </message>
     <message numerus="yes">
         <source>%n duplicate file found in %1.</source>
-        <translation><numerusform>%n doppelte Datei in %1 gefunden.</numerusform><numerusform>%n doppelte Dateien in %1 gefunden.</numerusform></translation>
+        <translation>
+            <numerusform>%n doppelte Datei in %1 gefunden.</numerusform>
+            <numerusform>%n doppelte Dateien in %1 gefunden.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n duplicate files found in %1.</source>
-        <translation><numerusform>%n doppelte Datei in %1 gefunden.</numerusform><numerusform>%n doppelte Dateien in %1 gefunden.</numerusform></translation>
+        <translation>
+            <numerusform>%n doppelte Datei in %1 gefunden.</numerusform>
+            <numerusform>%n doppelte Dateien in %1 gefunden.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -103,11 +103,17 @@
     </message>
     <message numerus="yes">
         <source>%1 item scanned</source>
-        <translation><numerusform>%1 élément analysé</numerusform><numerusform>%1 éléments analysés</numerusform></translation>
+        <translation>
+            <numerusform>%1 élément analysé</numerusform>
+            <numerusform>%1 éléments analysés</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%1 items scanned</source>
-        <translation><numerusform>%1 élément analysé</numerusform><numerusform>%1 éléments analysés</numerusform></translation>
+        <translation>
+            <numerusform>%1 élément analysé</numerusform>
+            <numerusform>%1 éléments analysés</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 copies checked</source>
@@ -137,7 +143,7 @@
     </message>
     <message>
         <source>Modified:%1</source>
-        <translation>Modifié : %1</translation>
+        <translation>Modifié&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not Available</source>
@@ -145,7 +151,7 @@
     </message>
     <message>
         <source>Copy %1: %2</source>
-        <translation>Copie %1 : %2</translation>
+        <translation>Copie %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -188,11 +194,11 @@
     </message>
     <message>
         <source>Stop duplicate files scan?</source>
-        <translation>Arrêter la recherche de fichiers en double ?</translation>
+        <translation>Arrêter la recherche de fichiers en double&#xa0;?</translation>
     </message>
     <message>
         <source>Duplicate files scan is in progress. Are you sure you want to stop the scan?</source>
-        <translation>Une recherche de fichiers en double est en cours. Voulez-vous vraiment l’arrêter ?</translation>
+        <translation>Une recherche de fichiers en double est en cours. Voulez-vous vraiment l’arrêter&#xa0;?</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -204,11 +210,11 @@
     </message>
     <message>
         <source>Start a new scan?</source>
-        <translation>Lancer une nouvelle recherche ?</translation>
+        <translation>Lancer une nouvelle recherche&#xa0;?</translation>
     </message>
     <message>
         <source>The current list of the duplicate search results will be lost. Are you sure you want to start a new scan?</source>
-        <translation>La liste actuelle des doublons trouvés sera perdue. Voulez-vous vraiment lancer une nouvelle recherche ?</translation>
+        <translation>La liste actuelle des doublons trouvés sera perdue. Voulez-vous vraiment lancer une nouvelle recherche&#xa0;?</translation>
     </message>
     <message>
         <source>New scan</source>
@@ -228,7 +234,7 @@
     </message>
     <message>
         <source>No group listed has a copy in “%1”.</source>
-        <translation>Aucun groupe affiché n’a de copie dans « %1 ».</translation>
+        <translation>Aucun groupe affiché n’a de copie dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Every group listed has one copy only.</source>
@@ -236,19 +242,31 @@
     </message>
     <message numerus="yes">
         <source>One copy of each of %n group stays: %1.</source>
-        <translation><numerusform>Dans %n groupe, une copie reste : %1.</numerusform><numerusform>Dans chacun des %n groupes, une copie reste : %1.</numerusform></translation>
+        <translation>
+            <numerusform>Dans %n groupe, une copie reste&#xa0;: %1.</numerusform>
+            <numerusform>Dans chacun des %n groupes, une copie reste&#xa0;: %1.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>One copy of each of %n groups stays: %1.</source>
-        <translation><numerusform>Dans %n groupe, une copie reste : %1.</numerusform><numerusform>Dans chacun des %n groupes, une copie reste : %1.</numerusform></translation>
+        <translation>
+            <numerusform>Dans %n groupe, une copie reste&#xa0;: %1.</numerusform>
+            <numerusform>Dans chacun des %n groupes, une copie reste&#xa0;: %1.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n file goes to the Trash and frees %1.</source>
-        <translation><numerusform>%n fichier va à la corbeille et libère %1.</numerusform><numerusform>%n fichiers vont à la corbeille et libèrent %1.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier va à la corbeille et libère %1.</numerusform>
+            <numerusform>%n fichiers vont à la corbeille et libèrent %1.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n files go to the Trash and free %1.</source>
-        <translation><numerusform>%n fichier va à la corbeille et libère %1.</numerusform><numerusform>%n fichiers vont à la corbeille et libèrent %1.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier va à la corbeille et libère %1.</numerusform>
+            <numerusform>%n fichiers vont à la corbeille et libèrent %1.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Each is compared with the copy that stays before it goes.</source>
@@ -256,11 +274,17 @@
     </message>
     <message numerus="yes">
         <source>Move %n file to the Trash?</source>
-        <translation><numerusform>Mettre %n fichier à la corbeille ?</numerusform><numerusform>Mettre %n fichiers à la corbeille ?</numerusform></translation>
+        <translation>
+            <numerusform>Mettre %n fichier à la corbeille&#xa0;?</numerusform>
+            <numerusform>Mettre %n fichiers à la corbeille&#xa0;?</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Move %n files to the Trash?</source>
-        <translation><numerusform>Mettre %n fichier à la corbeille ?</numerusform><numerusform>Mettre %n fichiers à la corbeille ?</numerusform></translation>
+        <translation>
+            <numerusform>Mettre %n fichier à la corbeille&#xa0;?</numerusform>
+            <numerusform>Mettre %n fichiers à la corbeille&#xa0;?</numerusform>
+        </translation>
     </message>
     <message>
         <source>Move to Trash</source>
@@ -276,43 +300,58 @@
     </message>
     <message>
         <source>1 file was kept: it had changed since the scan.</source>
-        <translation>1 fichier a été conservé : il a changé depuis la recherche.</translation>
+        <translation>1 fichier a été conservé&#xa0;: il a changé depuis la recherche.</translation>
     </message>
     <message numerus="yes">
         <source>%n files were kept: they had changed since the scan.</source>
-        <translation><numerusform>%n fichier a été conservé : il a changé depuis la recherche.</numerusform><numerusform>%n fichiers ont été conservés : ils ont changé depuis la recherche.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier a été conservé&#xa0;: il a changé depuis la recherche.</numerusform>
+            <numerusform>%n fichiers ont été conservés&#xa0;: ils ont changé depuis la recherche.</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was kept: it is not an exact copy of the one that stays.</source>
-        <translation>1 fichier a été conservé : ce n’est pas une copie exacte de celui qui reste.</translation>
+        <translation>1 fichier a été conservé&#xa0;: ce n’est pas une copie exacte de celui qui reste.</translation>
     </message>
     <message numerus="yes">
         <source>%n files were kept: they are not exact copies of the ones that stay.</source>
-        <translation><numerusform>%n fichier a été conservé : ce n’est pas une copie exacte de celui qui reste.</numerusform><numerusform>%n fichiers ont été conservés : ce ne sont pas des copies exactes de ceux qui restent.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier a été conservé&#xa0;: ce n’est pas une copie exacte de celui qui reste.</numerusform>
+            <numerusform>%n fichiers ont été conservés&#xa0;: ce ne sont pas des copies exactes de ceux qui restent.</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was kept: the copy meant to stay is gone.</source>
-        <translation>1 fichier a été conservé : la copie censée rester a disparu.</translation>
+        <translation>1 fichier a été conservé&#xa0;: la copie censée rester a disparu.</translation>
     </message>
     <message numerus="yes">
         <source>%n files were kept: the copies meant to stay are gone.</source>
-        <translation><numerusform>%n fichier a été conservé : la copie censée rester a disparu.</numerusform><numerusform>%n fichiers ont été conservés : les copies censées rester ont disparu.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier a été conservé&#xa0;: la copie censée rester a disparu.</numerusform>
+            <numerusform>%n fichiers ont été conservés&#xa0;: les copies censées rester ont disparu.</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was kept: it could not be compared.</source>
-        <translation>1 fichier a été conservé : il n’a pas pu être comparé.</translation>
+        <translation>1 fichier a été conservé&#xa0;: il n’a pas pu être comparé.</translation>
     </message>
     <message numerus="yes">
         <source>%n files were kept: they could not be compared.</source>
-        <translation><numerusform>%n fichier a été conservé : il n’a pas pu être comparé.</numerusform><numerusform>%n fichiers ont été conservés : ils n’ont pas pu être comparés.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier a été conservé&#xa0;: il n’a pas pu être comparé.</numerusform>
+            <numerusform>%n fichiers ont été conservés&#xa0;: ils n’ont pas pu être comparés.</numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was kept: %1</source>
-        <translation>1 fichier a été conservé : %1</translation>
+        <translation>1 fichier a été conservé&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n files were kept. The first: </source>
-        <translation><numerusform>%n fichier a été conservé. Le premier : </numerusform><numerusform>%n fichiers ont été conservés. Le premier : </numerusform></translation>
+        <translation>
+            <numerusform>%n fichier a été conservé. Le premier&#xa0;: </numerusform>
+            <numerusform>%n fichiers ont été conservés. Le premier&#xa0;: </numerusform>
+        </translation>
     </message>
     <message>
         <source>1 file was gone already.</source>
@@ -320,7 +359,10 @@
     </message>
     <message numerus="yes">
         <source>%n files were gone already.</source>
-        <translation><numerusform>%n fichier avait déjà disparu.</numerusform><numerusform>%n fichiers avaient déjà disparu.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier avait déjà disparu.</numerusform>
+            <numerusform>%n fichiers avaient déjà disparu.</numerusform>
+        </translation>
     </message>
     <message>
         <source>No files were moved to the Trash</source>
@@ -340,35 +382,59 @@
     </message>
     <message numerus="yes">
         <source>%n duplicate files found.</source>
-        <translation><numerusform>%n fichier en double trouvé.</numerusform><numerusform>%n fichiers en double trouvés.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier en double trouvé.</numerusform>
+            <numerusform>%n fichiers en double trouvés.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n group has no copy in “%1” and is left whole.</source>
-        <translation><numerusform>%n groupe n’a pas de copie dans « %1 » et reste entier.</numerusform><numerusform>%n groupes n’ont pas de copie dans « %1 » et restent entiers.</numerusform></translation>
+        <translation>
+            <numerusform>%n groupe n’a pas de copie dans «&#xa0;%1&#xa0;» et reste entier.</numerusform>
+            <numerusform>%n groupes n’ont pas de copie dans «&#xa0;%1&#xa0;» et restent entiers.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n groups have no copy in “%1” and are left whole.</source>
-        <translation><numerusform>%n groupe n’a pas de copie dans « %1 » et reste entier.</numerusform><numerusform>%n groupes n’ont pas de copie dans « %1 » et restent entiers.</numerusform></translation>
+        <translation>
+            <numerusform>%n groupe n’a pas de copie dans «&#xa0;%1&#xa0;» et reste entier.</numerusform>
+            <numerusform>%n groupes n’ont pas de copie dans «&#xa0;%1&#xa0;» et restent entiers.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n group had no copy in “%1” and was left whole.</source>
-        <translation><numerusform>%n groupe n’avait pas de copie dans « %1 » et est resté entier.</numerusform><numerusform>%n groupes n’avaient pas de copie dans « %1 » et sont restés entiers.</numerusform></translation>
+        <translation>
+            <numerusform>%n groupe n’avait pas de copie dans «&#xa0;%1&#xa0;» et est resté entier.</numerusform>
+            <numerusform>%n groupes n’avaient pas de copie dans «&#xa0;%1&#xa0;» et sont restés entiers.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n groups had no copy in “%1” and were left whole.</source>
-        <translation><numerusform>%n groupe n’avait pas de copie dans « %1 » et est resté entier.</numerusform><numerusform>%n groupes n’avaient pas de copie dans « %1 » et sont restés entiers.</numerusform></translation>
+        <translation>
+            <numerusform>%n groupe n’avait pas de copie dans «&#xa0;%1&#xa0;» et est resté entier.</numerusform>
+            <numerusform>%n groupes n’avaient pas de copie dans «&#xa0;%1&#xa0;» et sont restés entiers.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Stopped: %n file was not checked and stayed.</source>
-        <translation><numerusform>Arrêté : %n fichier n’a pas été vérifié et est resté.</numerusform><numerusform>Arrêté : %n fichiers n’ont pas été vérifiés et sont restés.</numerusform></translation>
+        <translation>
+            <numerusform>Arrêté&#xa0;: %n fichier n’a pas été vérifié et est resté.</numerusform>
+            <numerusform>Arrêté&#xa0;: %n fichiers n’ont pas été vérifiés et sont restés.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Stopped: %n files were not checked and stayed.</source>
-        <translation><numerusform>Arrêté : %n fichier n’a pas été vérifié et est resté.</numerusform><numerusform>Arrêté : %n fichiers n’ont pas été vérifiés et sont restés.</numerusform></translation>
+        <translation>
+            <numerusform>Arrêté&#xa0;: %n fichier n’a pas été vérifié et est resté.</numerusform>
+            <numerusform>Arrêté&#xa0;: %n fichiers n’ont pas été vérifiés et sont restés.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n files were moved to the Trash</source>
-        <translation><numerusform>%n fichier a été mis à la corbeille</numerusform><numerusform>%n fichiers ont été mis à la corbeille</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier a été mis à la corbeille</numerusform>
+            <numerusform>%n fichiers ont été mis à la corbeille</numerusform>
+        </translation>
     </message>
     <message>
         <source>Keep Copies Here</source>
@@ -417,8 +483,8 @@
         <translation>Nouvelle recherche</translation>
     </message>
     <message>
-        <source>in "%1"</source>
-        <translation>dans « %1 »</translation>
+        <source>in &quot;%1&quot;</source>
+        <translation>dans «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -486,7 +552,7 @@
     <name>BRIntroViewController</name>
     <message>
         <source>Got it!</source>
-        <translation>Compris !</translation>
+        <translation>Compris&#xa0;!</translation>
     </message>
     <message>
         <source>Welcome to Quillmere</source>
@@ -511,11 +577,11 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message>
         <source>Stop duplicate files scan &amp; switch to rename?</source>
-        <translation>Arrêter la recherche de doublons et passer au renommage ?</translation>
+        <translation>Arrêter la recherche de doublons et passer au renommage&#xa0;?</translation>
     </message>
     <message>
         <source>Duplicate files scanning is in progress. Do you want to stop the scan and switch to renaming files?</source>
-        <translation>Une recherche de fichiers en double est en cours. Voulez-vous l’arrêter et passer au renommage de fichiers ?</translation>
+        <translation>Une recherche de fichiers en double est en cours. Voulez-vous l’arrêter et passer au renommage de fichiers&#xa0;?</translation>
     </message>
     <message>
         <source>Stop scan</source>
@@ -541,7 +607,7 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message>
         <source>No duplicate %1</source>
-        <translation>Aucun doublon : %1</translation>
+        <translation>Aucun doublon&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -576,19 +642,31 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message numerus="yes">
         <source>%n files renamed</source>
-        <translation><numerusform>%n fichier renommé</numerusform><numerusform>%n fichiers renommés</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier renommé</numerusform>
+            <numerusform>%n fichiers renommés</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>, %n failed</source>
-        <translation><numerusform>, %n échec</numerusform><numerusform>, %n échecs</numerusform></translation>
+        <translation>
+            <numerusform>, %n échec</numerusform>
+            <numerusform>, %n échecs</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n files have their old names again</source>
-        <translation><numerusform>%n fichier a retrouvé son ancien nom</numerusform><numerusform>%n fichiers ont retrouvé leur ancien nom</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier a retrouvé son ancien nom</numerusform>
+            <numerusform>%n fichiers ont retrouvé leur ancien nom</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>, %n could not go back</source>
-        <translation><numerusform>, %n n’a pas pu revenir</numerusform><numerusform>, %n n’ont pas pu revenir</numerusform></translation>
+        <translation>
+            <numerusform>, %n n’a pas pu revenir</numerusform>
+            <numerusform>, %n n’ont pas pu revenir</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -660,7 +738,7 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
         <translation>Impossible de renommer certains fichiers</translation>
     </message>
     <message>
-        <source>Some files could not be renamed since they are locked or you don't have permission to modify them.</source>
+        <source>Some files could not be renamed since they are locked or you don&apos;t have permission to modify them.</source>
         <translation>Certains fichiers n’ont pas pu être renommés, car ils sont verrouillés ou vous n’avez pas le droit de les modifier.</translation>
     </message>
     <message>
@@ -673,11 +751,17 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message numerus="yes">
         <source>Rename %n files</source>
-        <translation><numerusform>Renommer %n fichier</numerusform><numerusform>Renommer %n fichiers</numerusform></translation>
+        <translation>
+            <numerusform>Renommer %n fichier</numerusform>
+            <numerusform>Renommer %n fichiers</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n more files could not go back either.</source>
-        <translation><numerusform>%n autre fichier n’a pas pu revenir non plus.</numerusform><numerusform>%n autres fichiers n’ont pas pu revenir non plus.</numerusform></translation>
+        <translation>
+            <numerusform>%n autre fichier n’a pas pu revenir non plus.</numerusform>
+            <numerusform>%n autres fichiers n’ont pas pu revenir non plus.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Add</source>
@@ -704,7 +788,18 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message>
         <source>“%1” is not inside your home folder, %2. Choose your home folder or a folder inside it.</source>
-        <translation>« %1 » n’est pas dans votre dossier personnel, %2. Choisissez votre dossier personnel ou un dossier qu’il contient.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas dans votre dossier personnel, %2. Choisissez votre dossier personnel ou un dossier qu’il contient.</translation>
+    </message>
+</context>
+<context>
+    <name>ByteCountFormatter</name>
+    <message>
+        <source>%1 byte</source>
+        <translation>%1 octet</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 octets</translation>
     </message>
 </context>
 <context>
@@ -746,7 +841,10 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message numerus="yes">
         <source>%1 copies</source>
-        <translation><numerusform>%1 copie</numerusform><numerusform>%1 copies</numerusform></translation>
+        <translation>
+            <numerusform>%1 copie</numerusform>
+            <numerusform>%1 copies</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -760,51 +858,51 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     <name>FreedesktopTrash</name>
     <message>
         <source>“%1” does not exist.</source>
-        <translation>« %1 » n’existe pas.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>“%1” is the top folder of a drive and cannot be moved to the Trash.</source>
-        <translation>« %1 » est le dossier racine d’un lecteur et ne peut pas être mis à la corbeille.</translation>
+        <translation>«&#xa0;%1&#xa0;» est le dossier racine d’un lecteur et ne peut pas être mis à la corbeille.</translation>
     </message>
     <message>
         <source>“%1” is already in the Trash.</source>
-        <translation>« %1 » est déjà dans la corbeille.</translation>
+        <translation>«&#xa0;%1&#xa0;» est déjà dans la corbeille.</translation>
     </message>
     <message>
         <source>“%1” holds the Trash, which cannot be moved into itself.</source>
-        <translation>« %1 » contient la corbeille, qui ne peut pas être déplacée dans elle-même.</translation>
+        <translation>«&#xa0;%1&#xa0;» contient la corbeille, qui ne peut pas être déplacée dans elle-même.</translation>
     </message>
     <message>
         <source>There is no Trash on the drive that holds “%1”.</source>
-        <translation>Il n’y a pas de corbeille sur le lecteur qui contient « %1 ».</translation>
+        <translation>Il n’y a pas de corbeille sur le lecteur qui contient «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The Trash cannot take “%1”: “%2” is not a folder.</source>
-        <translation>La corbeille ne peut pas recevoir « %1 » : « %2 » n’est pas un dossier.</translation>
+        <translation>La corbeille ne peut pas recevoir «&#xa0;%1&#xa0;»&#xa0;: «&#xa0;%2&#xa0;» n’est pas un dossier.</translation>
     </message>
     <message>
         <source>The Trash cannot take “%1”: its folder “%2” cannot be written to.</source>
-        <translation>La corbeille ne peut pas recevoir « %1 » : son dossier « %2 » n’est pas accessible en écriture.</translation>
+        <translation>La corbeille ne peut pas recevoir «&#xa0;%1&#xa0;»&#xa0;: son dossier «&#xa0;%2&#xa0;» n’est pas accessible en écriture.</translation>
     </message>
     <message>
         <source>There is no room in the Trash for “%1”: the disk is full.</source>
-        <translation>Il n’y a pas de place dans la corbeille pour « %1 » : le disque est plein.</translation>
+        <translation>Il n’y a pas de place dans la corbeille pour «&#xa0;%1&#xa0;»&#xa0;: le disque est plein.</translation>
     </message>
     <message>
         <source>“%1” is on a drive that is read-only.</source>
-        <translation>« %1 » se trouve sur un lecteur en lecture seule.</translation>
+        <translation>«&#xa0;%1&#xa0;» se trouve sur un lecteur en lecture seule.</translation>
     </message>
     <message>
         <source>You do not have permission to move “%1” to the Trash.</source>
-        <translation>Vous n’avez pas le droit de mettre « %1 » à la corbeille.</translation>
+        <translation>Vous n’avez pas le droit de mettre «&#xa0;%1&#xa0;» à la corbeille.</translation>
     </message>
     <message>
         <source>The Trash already holds too many items named “%1”.</source>
-        <translation>La corbeille contient déjà trop d’éléments nommés « %1 ».</translation>
+        <translation>La corbeille contient déjà trop d’éléments nommés «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” could not be moved to the Trash because of an unexpected error.</source>
-        <translation>« %1 » n’a pas pu être mis à la corbeille à cause d’une erreur inattendue.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être mis à la corbeille à cause d’une erreur inattendue.</translation>
     </message>
 </context>
 <context>
@@ -851,7 +949,7 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message>
         <source>the one in “%1”</source>
-        <translation>celle de « %1 »</translation>
+        <translation>celle de «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -908,23 +1006,23 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message>
         <source>Quit Quillmere?</source>
-        <translation>Quitter Quillmere ?</translation>
+        <translation>Quitter Quillmere&#xa0;?</translation>
     </message>
     <message>
         <source>Duplicate files scan is in progress. Are you sure you want to quit Quillmere?</source>
-        <translation>Une recherche de fichiers en double est en cours. Voulez-vous vraiment quitter Quillmere ?</translation>
+        <translation>Une recherche de fichiers en double est en cours. Voulez-vous vraiment quitter Quillmere&#xa0;?</translation>
     </message>
     <message>
         <source>The current list of the duplicate search results will be lost. Are you sure you want to quit Quillmere?</source>
-        <translation>La liste actuelle des doublons trouvés sera perdue. Voulez-vous vraiment quitter Quillmere ?</translation>
+        <translation>La liste actuelle des doublons trouvés sera perdue. Voulez-vous vraiment quitter Quillmere&#xa0;?</translation>
     </message>
     <message>
         <source>There are files selected for rename. Are you sure you want to quit Quillmere?</source>
-        <translation>Des fichiers sont sélectionnés pour être renommés. Voulez-vous vraiment quitter Quillmere ?</translation>
+        <translation>Des fichiers sont sélectionnés pour être renommés. Voulez-vous vraiment quitter Quillmere&#xa0;?</translation>
     </message>
     <message>
         <source>There are files selected for rename, and the current list of the duplicate search results will be lost. Are you sure you want to quit Quillmere?</source>
-        <translation>Des fichiers sont sélectionnés pour être renommés, et la liste actuelle des doublons trouvés sera perdue. Voulez-vous vraiment quitter Quillmere ?</translation>
+        <translation>Des fichiers sont sélectionnés pour être renommés, et la liste actuelle des doublons trouvés sera perdue. Voulez-vous vraiment quitter Quillmere&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -966,7 +1064,7 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     <name>RenameProblemText</name>
     <message>
         <source>“%1”</source>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1 will not be renamed. %2</source>
@@ -990,27 +1088,27 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message>
         <source>%1 cannot be a file name: it names a folder.</source>
-        <translation>%1 ne peut pas être un nom de fichier : il désigne un dossier.</translation>
+        <translation>%1 ne peut pas être un nom de fichier&#xa0;: il désigne un dossier.</translation>
     </message>
     <message>
         <source>%1 cannot be a file name: a name cannot hold a slash (/).</source>
-        <translation>%1 ne peut pas être un nom de fichier : un nom ne peut pas contenir de barre oblique (/).</translation>
+        <translation>%1 ne peut pas être un nom de fichier&#xa0;: un nom ne peut pas contenir de barre oblique (/).</translation>
     </message>
     <message>
         <source>The new name cannot be a file name: it holds a NUL character.</source>
-        <translation>Le nouveau nom ne peut pas être un nom de fichier : il contient un caractère NUL.</translation>
+        <translation>Le nouveau nom ne peut pas être un nom de fichier&#xa0;: il contient un caractère NUL.</translation>
     </message>
     <message>
         <source>The new name cannot be a file name: it is not valid UTF-8.</source>
-        <translation>Le nouveau nom ne peut pas être un nom de fichier : ce n’est pas de l’UTF-8 valide.</translation>
+        <translation>Le nouveau nom ne peut pas être un nom de fichier&#xa0;: ce n’est pas de l’UTF-8 valide.</translation>
     </message>
     <message>
-        <source>The new name is longer than this folder's disk allows.</source>
+        <source>The new name is longer than this folder&apos;s disk allows.</source>
         <translation>Le nouveau nom est plus long que ne le permet le disque de ce dossier.</translation>
     </message>
     <message>
         <source>Permission denied: the file or its folder is locked, or you may not change it.</source>
-        <translation>Permission refusée : le fichier ou son dossier est verrouillé, ou vous n’avez pas le droit de le modifier.</translation>
+        <translation>Permission refusée&#xa0;: le fichier ou son dossier est verrouillé, ou vous n’avez pas le droit de le modifier.</translation>
     </message>
     <message>
         <source>A file with that name already exists.</source>
@@ -1042,7 +1140,7 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message>
         <source>The system said: %1.</source>
-        <translation>Message du système : %1.</translation>
+        <translation>Message du système&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -1064,11 +1162,11 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message>
         <source>New name, typed: %1</source>
-        <translation>Nouveau nom, saisi : %1</translation>
+        <translation>Nouveau nom, saisi&#xa0;: %1</translation>
     </message>
     <message>
         <source>New name: %1</source>
-        <translation>Nouveau nom : %1</translation>
+        <translation>Nouveau nom&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1083,11 +1181,17 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message numerus="yes">
         <source>%n duplicate file found.</source>
-        <translation><numerusform>%n fichier en double trouvé.</numerusform><numerusform>%n fichiers en double trouvés.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier en double trouvé.</numerusform>
+            <numerusform>%n fichiers en double trouvés.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n duplicate files found.</source>
-        <translation><numerusform>%n fichier en double trouvé.</numerusform><numerusform>%n fichiers en double trouvés.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier en double trouvé.</numerusform>
+            <numerusform>%n fichiers en double trouvés.</numerusform>
+        </translation>
     </message>
     <message>
         <source>No duplicate files found in %1.</source>
@@ -1095,11 +1199,17 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
     <message numerus="yes">
         <source>%n duplicate file found in %1.</source>
-        <translation><numerusform>%n fichier en double trouvé dans %1.</numerusform><numerusform>%n fichiers en double trouvés dans %1.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier en double trouvé dans %1.</numerusform>
+            <numerusform>%n fichiers en double trouvés dans %1.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n duplicate files found in %1.</source>
-        <translation><numerusform>%n fichier en double trouvé dans %1.</numerusform><numerusform>%n fichiers en double trouvés dans %1.</numerusform></translation>
+        <translation>
+            <numerusform>%n fichier en double trouvé dans %1.</numerusform>
+            <numerusform>%n fichiers en double trouvés dans %1.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
