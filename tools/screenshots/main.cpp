@@ -592,7 +592,10 @@ int main(int argc, char *argv[])
                     box->close();
                 }
             });
-            presenter.runModal({u"Could not remove some files"_s, text, {u"OK"_s}});
+            presenter.runModal({QCoreApplication::translate("BRDuplicateFilesViewController",
+                                                            "Could not remove some files"),
+                                text,
+                                {u"OK"_s}});
         }
     }
 
