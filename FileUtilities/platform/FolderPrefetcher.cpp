@@ -25,15 +25,6 @@ FolderPrefetcher::~FolderPrefetcher()
         worker.join();
 }
 
-int FolderPrefetcher::heldListings() const
-{
-    std::lock_guard lock(m_mutex);
-    int held = 0;
-    for (const auto &[place, slot] : m_slots)
-        held += slot.listing ? 1 : 0;
-    return held;
-}
-
 std::vector<std::pair<FolderPrefetcher::Place, FolderPrefetcher::Slot>>
 FolderPrefetcher::subfoldersOf(const FolderListing &listing, const Place &place)
 {

@@ -40,9 +40,6 @@ public:
     // is behind the walk now and is dropped.
     std::optional<FolderListing> take(const Place &place);
 
-    // Listings read ahead and not yet taken, for tests.
-    int heldListings() const;
-
 private:
     enum class State
     {

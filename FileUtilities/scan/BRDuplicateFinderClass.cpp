@@ -44,12 +44,6 @@ void BRDuplicateFinderClass::clearScanData()
     m_firstOfSize.clear();
 }
 
-std::optional<DirectoryEnumerator>
-BRDuplicateFinderClass::directoryEnumeratorForPath(const QString &path)
-{
-    return DirectoryEnumerator::open(path);
-}
-
 // ".app" holds no slash, so it lies within the folder path or within the name.
 bool BRDuplicateFinderClass::pathHasApplicationMarker(const DirectoryEntry &entry)
 {

@@ -52,7 +52,6 @@ public:
     bool cancelActive() const { return m_cancelActive.load(std::memory_order_acquire); }
 
     void clearScanData();
-    static std::optional<DirectoryEnumerator> directoryEnumeratorForPath(const QString &path);
     void addSizeToCurrentFolder(qint64 size);
 
     // Writes a bucket record, replacing any earlier one. The results screen calls this
