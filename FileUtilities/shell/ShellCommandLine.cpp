@@ -9,14 +9,15 @@ constexpr int usageError = 2;
 
 QByteArray ShellCommandLine::usage()
 {
-    return "Usage: quillmere [--help | --version]\n"
-           "\n"
-           "Finds duplicate files and folders, and renames files in batches, in one window.\n"
-           "\n"
-           "  -h, --help  show this text\n"
-           "  --version   print the version\n"
-           "\n"
-           "Qt's own options, such as -platform and -style, are accepted as well.\n";
+    return tr("Usage: quillmere [--help | --version]\n"
+              "\n"
+              "Finds duplicate files and folders, and renames files in batches, in one window.\n"
+              "\n"
+              "  -h, --help  show this text\n"
+              "  --version   print the version\n"
+              "\n"
+              "Qt's own options, such as -platform and -style, are accepted as well.\n")
+        .toLocal8Bit();
 }
 
 ShellCommandLine::Outcome ShellCommandLine::read(const QStringList &arguments,
@@ -32,7 +33,7 @@ ShellCommandLine::Outcome ShellCommandLine::read(const QStringList &arguments,
     if (arguments.isEmpty())
         return {};
     const QString &first = arguments.first();
-    const QByteArray what = first.startsWith(u'-') ? "unknown option " : "unexpected argument ";
-    return {Request::Error, "quillmere: " + what + first.toLocal8Bit() + " (see --help)\n",
-            usageError};
+    const QString message = first.startsWith(u'-') ? tr("unknown option %1 (see --help)")
+                                                   : tr("unexpected argument %1 (see --help)");
+    return {Request::Error, "quillmere: " + message.arg(first).toLocal8Bit() + '\n', usageError};
 }

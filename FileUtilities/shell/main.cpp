@@ -39,13 +39,17 @@ int finish(const ShellCommandLine::Outcome &outcome)
 
 int main(int argc, char *argv[])
 {
-    // Help and the version are answered before Qt looks for a display.
-    if (const ShellCommandLine::Outcome early =
-            ShellCommandLine::read(argumentsOf(argc, argv), QUILLMERE_VERSION);
-        early.request == ShellCommandLine::Request::Help ||
-        early.request == ShellCommandLine::Request::Version)
-        return finish(early);
+    // Help and the version are answered before Qt looks for a display, in the user's language.
+    if (const ShellCommandLine::Request early =
+            ShellCommandLine::read(argumentsOf(argc, argv), QUILLMERE_VERSION).request;
+        early == ShellCommandLine::Request::Help || early == ShellCommandLine::Request::Version) {
+        QCoreApplication core(argc, argv);
+        Translations::install(core, QLocale());
+        return finish(ShellCommandLine::read(argumentsOf(argc, argv), QUILLMERE_VERSION));
+    }
     QApplication application(argc, argv);
+    // Before any window or text exists, so that every text is in the user's language.
+    Translations::install(application, QLocale());
     if (const ShellCommandLine::Outcome rest =
             ShellCommandLine::read(QCoreApplication::arguments().mid(1), QUILLMERE_VERSION);
         rest.request == ShellCommandLine::Request::Error)
@@ -54,8 +58,6 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("Quillmere"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("app.brackenhale.Quillmere"));
-    // Before any window or text exists, so that every text is in the user's language.
-    Translations::install(application, QLocale());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/quillmere.svg")));
     // Outside a desktop session Qt knows no icon theme; the installed Adwaita stands in,
     // so file types and the search field still get their icons.

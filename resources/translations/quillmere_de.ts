@@ -1213,6 +1213,37 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     </message>
 </context>
 <context>
+    <name>ShellCommandLine</name>
+    <message>
+        <source>Usage: quillmere [--help | --version]
+
+Finds duplicate files and folders, and renames files in batches, in one window.
+
+  -h, --help  show this text
+  --version   print the version
+
+Qt&apos;s own options, such as -platform and -style, are accepted as well.
+</source>
+        <translation>Aufruf: quillmere [--help | --version]
+
+Findet doppelte Dateien und Ordner und benennt Dateien stapelweise um, in einem Fenster.
+
+  -h, --help  diesen Text zeigen
+  --version   die Version ausgeben
+
+Qts eigene Optionen wie -platform und -style werden ebenfalls angenommen.
+</translation>
+    </message>
+    <message>
+        <source>unknown option %1 (see --help)</source>
+        <translation>unbekannte Option %1 (siehe --help)</translation>
+    </message>
+    <message>
+        <source>unexpected argument %1 (see --help)</source>
+        <translation>unerwartetes Argument %1 (siehe --help)</translation>
+    </message>
+</context>
+<context>
     <name>SortOrder</name>
     <message>
         <source>All</source>
@@ -1252,6 +1283,68 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
     <message>
         <source>Folder</source>
         <translation>Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere-scan</name>
+    <message>
+        <source>Usage: quillmere-scan [--json] [--single-thread] PATH
+       quillmere-scan --help | --version
+
+Finds duplicate files and folders below PATH in one pass.
+Files above 64 KiB of equal size and type are compared by fingerprint;
+folders by total size, entry count and the fingerprints of their first and last files.
+Hidden files and folders, and every path containing &quot;.app&quot;, are skipped.
+
+  --json           print every report of the scan as it happens, one JSON object
+                   per line
+  --single-thread  read every folder and file on the scanning thread instead of
+                   ahead of it on a few more; slower, with the same reports
+  -h, --help       show this text
+  --version        print the version
+
+Exit status: 0 when the scan ran, 1 when the output could not be written,
+2 when PATH is not a readable folder or the arguments are wrong.
+</source>
+        <translation>Aufruf: quillmere-scan [--json] [--single-thread] PFAD
+        quillmere-scan --help | --version
+
+Findet doppelte Dateien und Ordner unterhalb von PFAD in einem Durchgang.
+Dateien über 64 KiB mit gleicher Größe und gleichem Typ werden per Fingerabdruck
+verglichen, Ordner nach Gesamtgröße, Anzahl der Einträge und den Fingerabdrücken
+ihrer ersten und letzten Datei.
+Versteckte Dateien und Ordner sowie jeder Pfad, der „.app“ enthält, werden übersprungen.
+
+  --json           jede Meldung der Suche ausgeben, sobald sie entsteht, ein
+                   JSON-Objekt pro Zeile
+  --single-thread  jeden Ordner und jede Datei im suchenden Thread lesen statt
+                   vorab in einigen weiteren; langsamer, mit denselben Meldungen
+  -h, --help       diesen Text zeigen
+  --version        die Version ausgeben
+
+Rückgabewert: 0, wenn die Suche lief, 1, wenn die Ausgabe nicht geschrieben werden
+konnte, 2, wenn PFAD kein lesbarer Ordner ist oder die Argumente falsch sind.
+</translation>
+    </message>
+    <message>
+        <source>unknown option %1 (see --help)</source>
+        <translation>unbekannte Option %1 (siehe --help)</translation>
+    </message>
+    <message>
+        <source>expected one folder to scan (see --help)</source>
+        <translation>erwartet genau einen zu durchsuchenden Ordner (siehe --help)</translation>
+    </message>
+    <message>
+        <source>%1: no such file or folder</source>
+        <translation>%1: Datei oder Ordner nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>%1: not a folder</source>
+        <translation>%1: kein Ordner</translation>
+    </message>
+    <message>
+        <source>%1: folder cannot be read</source>
+        <translation>%1: Ordner kann nicht gelesen werden</translation>
     </message>
 </context>
 </TS>

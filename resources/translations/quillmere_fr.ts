@@ -1213,6 +1213,38 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     </message>
 </context>
 <context>
+    <name>ShellCommandLine</name>
+    <message>
+        <source>Usage: quillmere [--help | --version]
+
+Finds duplicate files and folders, and renames files in batches, in one window.
+
+  -h, --help  show this text
+  --version   print the version
+
+Qt&apos;s own options, such as -platform and -style, are accepted as well.
+</source>
+        <translation>Usage : quillmere [--help | --version]
+
+Trouve les fichiers et dossiers en double, et renomme des fichiers par lots, dans une
+seule fenêtre.
+
+  -h, --help  afficher ce texte
+  --version   afficher la version
+
+Les options propres à Qt, comme -platform et -style, sont aussi acceptées.
+</translation>
+    </message>
+    <message>
+        <source>unknown option %1 (see --help)</source>
+        <translation>option inconnue %1 (voir --help)</translation>
+    </message>
+    <message>
+        <source>unexpected argument %1 (see --help)</source>
+        <translation>argument inattendu %1 (voir --help)</translation>
+    </message>
+</context>
+<context>
     <name>SortOrder</name>
     <message>
         <source>All</source>
@@ -1252,6 +1284,68 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
     <message>
         <source>Folder</source>
         <translation>Dossier</translation>
+    </message>
+</context>
+<context>
+    <name>quillmere-scan</name>
+    <message>
+        <source>Usage: quillmere-scan [--json] [--single-thread] PATH
+       quillmere-scan --help | --version
+
+Finds duplicate files and folders below PATH in one pass.
+Files above 64 KiB of equal size and type are compared by fingerprint;
+folders by total size, entry count and the fingerprints of their first and last files.
+Hidden files and folders, and every path containing &quot;.app&quot;, are skipped.
+
+  --json           print every report of the scan as it happens, one JSON object
+                   per line
+  --single-thread  read every folder and file on the scanning thread instead of
+                   ahead of it on a few more; slower, with the same reports
+  -h, --help       show this text
+  --version        print the version
+
+Exit status: 0 when the scan ran, 1 when the output could not be written,
+2 when PATH is not a readable folder or the arguments are wrong.
+</source>
+        <translation>Usage : quillmere-scan [--json] [--single-thread] CHEMIN
+        quillmere-scan --help | --version
+
+Trouve en un seul passage les fichiers et dossiers en double sous CHEMIN.
+Les fichiers de plus de 64 Kio de même taille et de même type sont comparés par
+empreinte ; les dossiers par taille totale, nombre d’éléments et empreintes de leurs
+premier et dernier fichiers.
+Les fichiers et dossiers cachés, et tout chemin contenant « .app », sont ignorés.
+
+  --json           écrire chaque message de la recherche dès qu’il paraît, un objet
+                   JSON par ligne
+  --single-thread  lire chaque dossier et chaque fichier sur le fil de la recherche
+                   plutôt qu’en avance sur quelques autres ; plus lent, mêmes messages
+  -h, --help       afficher ce texte
+  --version        afficher la version
+
+Code de sortie : 0 quand la recherche a eu lieu, 1 quand la sortie n’a pas pu être
+écrite, 2 quand CHEMIN n’est pas un dossier lisible ou que les arguments sont faux.
+</translation>
+    </message>
+    <message>
+        <source>unknown option %1 (see --help)</source>
+        <translation>option inconnue %1 (voir --help)</translation>
+    </message>
+    <message>
+        <source>expected one folder to scan (see --help)</source>
+        <translation>un seul dossier à parcourir est attendu (voir --help)</translation>
+    </message>
+    <message>
+        <source>%1: no such file or folder</source>
+        <translation>%1 : fichier ou dossier introuvable</translation>
+    </message>
+    <message>
+        <source>%1: not a folder</source>
+        <translation>%1 : n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>%1: folder cannot be read</source>
+        <translation>%1 : le dossier ne peut pas être lu</translation>
     </message>
 </context>
 </TS>

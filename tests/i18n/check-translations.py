@@ -43,10 +43,12 @@ def messages(path):
 
 
 def main():
-    lupdate, sources, *languages = sys.argv[1:]
+    lupdate, *paths = sys.argv[1:]
+    sources = [p for p in paths if not p.endswith(".ts")]
+    languages = [p for p in paths if p.endswith(".ts")]
     with tempfile.TemporaryDirectory() as scratch:
         current = os.path.join(scratch, "current.ts")
-        subprocess.run([lupdate, "-silent", "-locations", "none", *sources.split(";"), "-ts", current],
+        subprocess.run([lupdate, "-silent", "-locations", "none", *sources, "-ts", current],
                        check=True)
         wanted = set(messages(current))
     if not wanted:

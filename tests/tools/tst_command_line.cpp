@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -17,9 +18,15 @@ struct Run
     QByteArray out, err;
 };
 
-Run run(const QString &program, const QStringList &arguments)
+// Runs in the C locale unless told otherwise, so that texts read back are the English ones.
+Run run(const QString &program, const QStringList &arguments,
+        const QString &locale = QStringLiteral("C.UTF-8"))
 {
     QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), locale);
+    environment.remove(QStringLiteral("LANGUAGE")); // it would outrank LC_ALL for texts
+    process.setProcessEnvironment(environment);
     process.start(program, arguments);
     if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit)
         return {};
@@ -121,6 +128,51 @@ private Q_SLOTS:
         const QSet<QString> manualOptions = optionsIn(
             optionsSection(QStringLiteral(QUILLMERE_MAN_DIR "/") + name + QStringLiteral(".1")));
         QCOMPARE(manualOptions, helpOptions);
+    }
+
+    void helpAndErrorsInTheUserLanguage_data()
+    {
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QByteArray>("usage");
+        QTest::addColumn<QByteArray>("refusal");
+        const QString scan = QStringLiteral(QUILLMERE_SCAN_PATH);
+        const QString shell = QStringLiteral(QUILLMERE_PATH);
+        QTest::newRow("quillmere-scan, German")
+            << scan << u"de_DE.UTF-8"_s << QByteArray("Aufruf: quillmere-scan")
+            << QByteArray("quillmere-scan: unbekannte Option --bogus (siehe --help)\n");
+        QTest::newRow("quillmere-scan, French")
+            << scan << u"fr_FR.UTF-8"_s << QByteArray("Usage : quillmere-scan")
+            << QByteArray("quillmere-scan: option inconnue --bogus (voir --help)\n");
+        QTest::newRow("quillmere, German")
+            << shell << u"de_DE.UTF-8"_s << QByteArray("Aufruf: quillmere [")
+            << QByteArray("quillmere: unbekannte Option --bogus (siehe --help)\n");
+        QTest::newRow("quillmere, French")
+            << shell << u"fr_CA.UTF-8"_s << QByteArray("Usage : quillmere [")
+            << QByteArray("quillmere: option inconnue --bogus (voir --help)\n");
+    }
+    // Help and refusals follow the locale, and a translated help names the same options.
+    void helpAndErrorsInTheUserLanguage()
+    {
+        QFETCH(QString, program);
+        QFETCH(QString, locale);
+        QFETCH(QByteArray, usage);
+        QFETCH(QByteArray, refusal);
+        const Run help = run(program, {QStringLiteral("--help")}, locale);
+        QCOMPARE(help.exitCode, 0);
+        QVERIFY2(help.out.startsWith(usage), help.out.constData());
+        const Run english = run(program, {QStringLiteral("--help")});
+        QCOMPARE(optionsIn(QString::fromUtf8(help.out)), optionsIn(QString::fromUtf8(english.out)));
+
+        const Run refused =
+            run(program, {QStringLiteral("-platform"), QStringLiteral("offscreen"), u"--bogus"_s},
+                locale);
+        QCOMPARE(refused.exitCode, 2);
+        // quillmere-scan meets "-platform" first and refuses that instead.
+        const QByteArray expected = program == QStringLiteral(QUILLMERE_SCAN_PATH)
+                                        ? QByteArray(refusal).replace("--bogus", "-platform")
+                                        : refusal;
+        QCOMPARE(refused.err, expected);
     }
 
     void shellRefusesWhatItDoesNotKnow_data()

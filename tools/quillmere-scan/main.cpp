@@ -1,9 +1,11 @@
 #include "BRDuplicateFinderClass.h"
 #include "CommandLineReporter.h"
 #include "DuplicateListing.h"
+#include "Translations.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QStringList>
 
 #include <cstdio>
@@ -12,7 +14,10 @@ namespace {
 
 constexpr int usageError = 2;
 
-const char usage[] =
+// Help and the errors speak the user's language; the listing and --json stay as scripts
+// expect them.
+const char usage[] = QT_TRANSLATE_NOOP(
+    "quillmere-scan",
     "Usage: quillmere-scan [--json] [--single-thread] PATH\n"
     "       quillmere-scan --help | --version\n"
     "\n"
@@ -29,11 +34,16 @@ const char usage[] =
     "  --version        print the version\n"
     "\n"
     "Exit status: 0 when the scan ran, 1 when the output could not be written,\n"
-    "2 when PATH is not a readable folder or the arguments are wrong.\n";
+    "2 when PATH is not a readable folder or the arguments are wrong.\n");
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("quillmere-scan", text);
+}
 
 int fail(const QString &message)
 {
-    std::fprintf(stderr, "quillmere-scan: %s\n", qPrintable(message));
+    std::fprintf(stderr, "quillmere-scan: %s\n", message.toLocal8Bit().constData());
     return usageError;
 }
 
@@ -43,6 +53,7 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quillmere-scan"));
+    Translations::install(application, QLocale());
 
     bool json = false;
     bool singleThread = false;
@@ -51,7 +62,7 @@ int main(int argc, char *argv[])
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments.at(i);
         if (argument == QStringLiteral("--help") || argument == QStringLiteral("-h")) {
-            std::fputs(usage, stdout);
+            std::fputs(translated(usage).toLocal8Bit().constData(), stdout);
             return 0;
         }
         if (argument == QStringLiteral("--version")) {
@@ -66,23 +77,27 @@ int main(int argc, char *argv[])
             paths += arguments.mid(i + 1);
             break;
         } else if (argument.startsWith(u'-') && argument.size() > 1) {
-            return fail(QStringLiteral("unknown option ") + argument +
-                        QStringLiteral(" (see --help)"));
+            return fail(
+                QCoreApplication::translate("quillmere-scan", "unknown option %1 (see --help)")
+                    .arg(argument));
         } else {
             paths.append(argument);
         }
     }
     if (paths.size() != 1)
-        return fail(QStringLiteral("expected one folder to scan (see --help)"));
+        return fail(QCoreApplication::translate("quillmere-scan",
+                                                "expected one folder to scan (see --help)"));
 
     const QString path = paths.first();
     const QFileInfo info(path);
     if (!info.exists())
-        return fail(path + QStringLiteral(": no such file or folder"));
+        return fail(
+            QCoreApplication::translate("quillmere-scan", "%1: no such file or folder").arg(path));
     if (!info.isDir())
-        return fail(path + QStringLiteral(": not a folder"));
+        return fail(QCoreApplication::translate("quillmere-scan", "%1: not a folder").arg(path));
     if (!info.isReadable() || !info.isExecutable())
-        return fail(path + QStringLiteral(": folder cannot be read"));
+        return fail(
+            QCoreApplication::translate("quillmere-scan", "%1: folder cannot be read").arg(path));
 
     CommandLineReporter reporter(stdout, json);
     BRDuplicateFinderClass finder(&reporter);
