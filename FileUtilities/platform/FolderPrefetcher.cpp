@@ -8,22 +8,13 @@
 #include <unistd.h>
 
 FolderPrefetcher::FolderPrefetcher(int workers, int foldersAhead, std::function<void()> beforeRead)
-    : m_foldersAhead(std::max(1, foldersAhead)), m_beforeRead(std::move(beforeRead))
-{
-    for (int i = 0; i < workers; ++i)
-        m_workers.emplace_back([this] { work(); });
-}
+    : m_foldersAhead(std::max(1, foldersAhead)), m_beforeRead(std::move(beforeRead)),
+      m_crew(
+          m_mutex, workers, [this] { return hasRoomAndWork(); },
+          [this](std::unique_lock<std::mutex> &lock) { listNext(lock); })
+{}
 
-FolderPrefetcher::~FolderPrefetcher()
-{
-    {
-        std::lock_guard lock(m_mutex);
-        m_stopping = true;
-    }
-    m_workToDo.notify_all();
-    for (std::thread &worker : m_workers)
-        worker.join();
-}
+FolderPrefetcher::~FolderPrefetcher() = default;
 
 std::vector<std::pair<FolderPrefetcher::Place, FolderPrefetcher::Slot>>
 FolderPrefetcher::subfoldersOf(const FolderListing &listing, const Place &place)
@@ -70,11 +61,8 @@ void FolderPrefetcher::offerLocked(std::vector<std::pair<Place, Slot>> offered)
         ++added;
     }
     m_waitingSlots += added;
-    if (m_busy >= m_foldersAhead)
-        return; // a worker woken now would find no room
-    const auto idle = static_cast<size_t>(m_idleWorkers);
-    for (size_t woken = 0; woken < std::min(added, idle); ++woken)
-        m_workToDo.notify_one();
+    if (hasRoomAndWork())
+        m_crew.wakeLocked(added);
 }
 
 std::optional<FolderListing> FolderPrefetcher::take(const Place &place)
@@ -111,52 +99,46 @@ std::optional<FolderListing> FolderPrefetcher::take(const Place &place)
     }
     // Sleeping workers wake once half the room is free, so that each wake lists several
     // folders rather than one: a wake costs about as much as a warm listing.
-    if (freed > 0 && m_idleWorkers > 0 && m_waitingSlots > 0 && m_busy <= m_foldersAhead / 2)
-        m_workToDo.notify_all();
+    if (freed > 0 && m_busy <= m_foldersAhead / 2 && hasRoomAndWork())
+        m_crew.wakeLocked(static_cast<size_t>(m_crew.size()));
     return listing;
 }
 
-void FolderPrefetcher::work()
+void FolderPrefetcher::listNext(std::unique_lock<std::mutex> &lock)
 {
-    std::unique_lock lock(m_mutex);
-    for (;;) {
-        ++m_idleWorkers;
-        m_workToDo.wait(
-            lock, [this] { return m_stopping || (m_busy < m_foldersAhead && m_waitingSlots > 0); });
-        --m_idleWorkers;
-        if (m_stopping)
-            return;
-        const auto next = std::find_if(m_slots.begin(), m_slots.end(), [](const auto &item) {
-            return item.second.state == State::Waiting;
-        });
-        const Place place = next->first;
-        Slot &slot = next->second;
-        slot.state = State::Reading;
-        --m_waitingSlots;
-        ++m_busy;
-        const Slot request{State::Reading, slot.nativePath, slot.path, slot.stamp, std::nullopt};
-        lock.unlock();
-        std::optional<FolderListing> listing = read(request);
-        std::vector<std::pair<Place, Slot>> offered;
-        if (listing)
-            offered = subfoldersOf(*listing, place);
-        lock.lock();
-        auto reading = m_slots.find(place);
-        if (reading == m_slots.end() || reading->second.state != State::Reading) {
-            --m_busy; // the walk went past it meanwhile
-            continue;
-        }
-        if (!listing) {
-            --m_busy;
-            reading->second.state = State::Failed;
-        } else {
-            reading->second.state = State::Ready;
-            reading->second.listing = std::move(listing);
-            offerLocked(std::move(offered));
-        }
-        if (m_walkWaits)
-            m_listed.notify_one();
+    const auto next = std::find_if(m_slots.begin(), m_slots.end(), [](const auto &item) {
+        return item.second.state == State::Waiting;
+    });
+    const Place place = next->first;
+    Slot &slot = next->second;
+    slot.state = State::Reading;
+    --m_waitingSlots;
+    ++m_busy;
+    const Slot request{State::Reading, slot.nativePath, slot.path, slot.stamp, std::nullopt};
+    lock.unlock();
+    const long sleepsBefore = ReadPace::sleepsOfThisThread();
+    std::optional<FolderListing> listing = read(request);
+    const bool slept = ReadPace::sleepsOfThisThread() != sleepsBefore;
+    std::vector<std::pair<Place, Slot>> offered;
+    if (listing)
+        offered = subfoldersOf(*listing, place);
+    lock.lock();
+    m_crew.countReadLocked(slept);
+    auto reading = m_slots.find(place);
+    if (reading == m_slots.end() || reading->second.state != State::Reading) {
+        --m_busy; // the walk went past it meanwhile
+        return;
     }
+    if (!listing) {
+        --m_busy;
+        reading->second.state = State::Failed;
+    } else {
+        reading->second.state = State::Ready;
+        reading->second.listing = std::move(listing);
+        offerLocked(std::move(offered));
+    }
+    if (m_walkWaits)
+        m_listed.notify_one();
 }
 
 std::optional<FolderListing> FolderPrefetcher::read(const Slot &slot) const
@@ -175,5 +157,14 @@ std::optional<FolderListing> FolderPrefetcher::read(const Slot &slot) const
         ::close(fd);
         return std::nullopt;
     }
-    return FolderListing::read(fd, slot.nativePath, slot.path);
+    std::optional<FolderListing> listing = FolderListing::read(fd, slot.nativePath, slot.path);
+    // Closing a descriptor that has read a large folder frees the file system's cache of
+    // its names, which costs the walk as much as a small listing: the walk gets a fresh
+    // descriptor for the folder, and the one that read it is closed here.
+    if (listing) {
+        const int fresh = ::openat(listing->descriptor(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (fresh >= 0)
+            listing->setDescriptor(fresh);
+    }
+    return listing;
 }

@@ -2,6 +2,7 @@
 
 #include "FileStamp.h"
 #include "FolderListing.h"
+#include "WorkerCrew.h"
 
 #include <QByteArray>
 #include <QString>
@@ -11,7 +12,6 @@
 #include <map>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <vector>
 
 // Lists folders ahead of a walk on a few threads of its own, so that the disk always has
@@ -57,7 +57,8 @@ private:
         std::optional<FolderListing> listing;
     };
 
-    void work();
+    // Lists the earliest waiting folder; called by a worker with the lock held.
+    void listNext(std::unique_lock<std::mutex> &lock);
     // Reads the folder by its path, and only if it is still the folder its parent listed.
     std::optional<FolderListing> read(const Slot &slot) const;
     // The subfolders of `listing` as waiting slots, built outside the lock.
@@ -65,6 +66,7 @@ private:
                                                             const Place &place);
     // Adds them as far as there is room, and wakes as many idle workers.
     void offerLocked(std::vector<std::pair<Place, Slot>> offered);
+    bool hasRoomAndWork() const { return m_busy < m_foldersAhead && m_waitingSlots > 0; }
 
     static constexpr size_t mostWaiting = 4096;
     static constexpr size_t deepestPlace = 256;
@@ -72,15 +74,12 @@ private:
     const int m_foldersAhead;
     const std::function<void()> m_beforeRead;
     mutable std::mutex m_mutex;
-    // Each side is woken only when the other has something for it: waking every thread for
-    // every folder costs more than the listing itself on a warm cache.
-    std::condition_variable m_workToDo;
+    // The walk is woken only when a worker has listed something while it waits: waking a
+    // thread for every folder costs more than the listing itself on a warm cache.
     std::condition_variable m_listed;
     std::map<Place, Slot> m_slots;
     size_t m_waitingSlots = 0;
     int m_busy = 0; // slots Reading or Ready, and reads whose slot the walk passed
-    int m_idleWorkers = 0;
     bool m_walkWaits = false;
-    bool m_stopping = false;
-    std::vector<std::thread> m_workers;
+    WorkerCrew m_crew; // last, so that it stops before anything it uses goes
 };

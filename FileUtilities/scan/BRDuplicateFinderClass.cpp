@@ -206,8 +206,10 @@ void BRDuplicateFinderClass::readAheadIn(const FolderListing &folder)
     };
 
     qint64 filesBytes = 0;
+    bool hasSubfolders = false;
     const FolderListing::Entry *first = nullptr;
     for (const FolderListing::Entry &entry : folder.entries()) {
+        hasSubfolders = hasSubfolders || entry.kind == DirectoryEntry::Kind::Folder;
         if (entry.kind != DirectoryEntry::Kind::File)
             continue;
         const qint64 size = entry.stamp.size;
@@ -228,8 +230,9 @@ void BRDuplicateFinderClass::readAheadIn(const FolderListing &folder)
         }
         ask(entry);
     }
-    // A folder of this much in files alone will be compared when it closes.
-    if (first && filesBytes >= smallestComparedFolderSize) {
+    // A folder of this much in files alone will be compared when it closes, and so may one
+    // whose subfolders bring it that far.
+    if (first && (filesBytes >= smallestComparedFolderSize || hasSubfolders)) {
         ask(*first);
         const FolderListing::Entry &last = folder.entries().back();
         if (&last != first && last.kind == DirectoryEntry::Kind::File)

@@ -5,22 +5,13 @@
 #include <algorithm>
 
 FingerprintReadAhead::FingerprintReadAhead(int workers, int ahead, std::function<void()> beforeRead)
-    : m_ahead(std::max(1, ahead)), m_beforeRead(std::move(beforeRead))
-{
-    for (int i = 0; i < workers; ++i)
-        m_workers.emplace_back([this] { work(); });
-}
+    : m_ahead(std::max(1, ahead)), m_beforeRead(std::move(beforeRead)),
+      m_crew(
+          m_mutex, workers, [this] { return !m_waiting.empty(); },
+          [this](std::unique_lock<std::mutex> &lock) { readNext(lock); })
+{}
 
-FingerprintReadAhead::~FingerprintReadAhead()
-{
-    {
-        std::lock_guard lock(m_mutex);
-        m_stopping = true;
-    }
-    m_workToDo.notify_all();
-    for (std::thread &worker : m_workers)
-        worker.join();
-}
+FingerprintReadAhead::~FingerprintReadAhead() = default;
 
 bool FingerprintReadAhead::makeRoomLocked()
 {
@@ -37,27 +28,20 @@ bool FingerprintReadAhead::makeRoomLocked()
 void FingerprintReadAhead::request(std::vector<Request> requests)
 {
     size_t added = 0;
-    {
-        std::lock_guard lock(m_mutex);
-        for (Request &wanted : requests) {
-            if (m_jobs.contains(wanted.path))
-                continue;
-            if (!makeRoomLocked())
-                break;
-            const quint64 order = m_nextOrder++;
-            m_jobs.insert(wanted.path, Job{order,
-                                           State::Waiting,
-                                           std::move(wanted.folder),
-                                           std::move(wanted.nativeName),
-                                           {}});
-            m_waiting.emplace_back(order, std::move(wanted.path));
-            ++added;
-        }
+    std::lock_guard lock(m_mutex);
+    for (Request &wanted : requests) {
+        if (m_jobs.contains(wanted.path))
+            continue;
+        if (!makeRoomLocked())
+            break;
+        const quint64 order = m_nextOrder++;
+        m_jobs.insert(
+            wanted.path,
+            Job{order, State::Waiting, std::move(wanted.folder), std::move(wanted.nativeName), {}});
+        m_waiting.emplace_back(order, std::move(wanted.path));
+        ++added;
     }
-    if (added == 1)
-        m_workToDo.notify_one();
-    else if (added > 1)
-        m_workToDo.notify_all();
+    m_crew.wakeLocked(added);
 }
 
 std::optional<VideoHash> FingerprintReadAhead::take(const QString &path)
@@ -75,34 +59,31 @@ std::optional<VideoHash> FingerprintReadAhead::take(const QString &path)
     return hash;
 }
 
-void FingerprintReadAhead::work()
+void FingerprintReadAhead::readNext(std::unique_lock<std::mutex> &lock)
 {
-    OSHashAlgorithm fingerprint;
-    std::unique_lock lock(m_mutex);
-    for (;;) {
-        m_workToDo.wait(lock, [this] { return m_stopping || !m_waiting.empty(); });
-        if (m_stopping)
-            return;
-        const auto [order, path] = std::move(m_waiting.front());
-        m_waiting.pop_front();
-        auto job = m_jobs.find(path);
-        if (job == m_jobs.end() || job->order != order)
-            continue; // withdrawn
-        job->state = State::Reading;
-        const std::shared_ptr<const FileDescriptor> folder = job->folder;
-        const QByteArray nativeName = job->nativeName;
-        lock.unlock();
-        if (m_beforeRead)
-            m_beforeRead();
-        VideoHash hash =
-            fingerprint.hashForFileInFolder(folder ? folder->get() : -1, nativeName, path);
-        lock.lock();
-        job = m_jobs.find(path);
-        if (job != m_jobs.end() && job->order == order) {
-            job->state = State::Ready;
-            job->hash = std::move(hash);
-            job->folder.reset();
-            m_unclaimed.emplace(order, path);
-        }
+    const auto [order, path] = std::move(m_waiting.front());
+    m_waiting.pop_front();
+    auto job = m_jobs.find(path);
+    if (job == m_jobs.end() || job->order != order)
+        return; // withdrawn
+    job->state = State::Reading;
+    const std::shared_ptr<const FileDescriptor> folder = job->folder;
+    const QByteArray nativeName = job->nativeName;
+    lock.unlock();
+    const long sleepsBefore = ReadPace::sleepsOfThisThread();
+    if (m_beforeRead)
+        m_beforeRead();
+    // One each: it keeps its buffers from one file to the next.
+    thread_local OSHashAlgorithm fingerprint;
+    VideoHash hash = fingerprint.hashForFileInFolder(folder ? folder->get() : -1, nativeName, path);
+    const bool slept = ReadPace::sleepsOfThisThread() != sleepsBefore;
+    lock.lock();
+    m_crew.countReadLocked(slept);
+    job = m_jobs.find(path);
+    if (job != m_jobs.end() && job->order == order) {
+        job->state = State::Ready;
+        job->hash = std::move(hash);
+        job->folder.reset();
+        m_unclaimed.emplace(order, path);
     }
 }

@@ -2,12 +2,12 @@
 
 #include "FileDescriptor.h"
 #include "VideoHash.h"
+#include "WorkerCrew.h"
 
 #include <QByteArray>
 #include <QHash>
 #include <QString>
 
-#include <condition_variable>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -15,7 +15,6 @@
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <vector>
 
 // Takes fingerprints of files the scan will soon ask about, on a few threads of its own,
@@ -63,18 +62,17 @@ private:
         VideoHash hash;
     };
 
-    void work();
+    // Takes the oldest waiting request's fingerprint; called by a worker with the lock held.
+    void readNext(std::unique_lock<std::mutex> &lock);
     // Makes room for one more request; false when every held request is still running.
     bool makeRoomLocked();
 
     const int m_ahead;
     const std::function<void()> m_beforeRead;
     std::mutex m_mutex;
-    std::condition_variable m_workToDo;
     QHash<QString, Job> m_jobs;
     std::deque<std::pair<quint64, QString>> m_waiting; // oldest first; withdrawn ones stay
     std::map<quint64, QString> m_unclaimed;            // ready fingerprints, oldest first
     quint64 m_nextOrder = 0;
-    bool m_stopping = false;
-    std::vector<std::thread> m_workers;
+    WorkerCrew m_crew; // last, so that it stops before anything it uses goes
 };
