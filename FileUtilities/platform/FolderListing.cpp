@@ -123,6 +123,7 @@ std::optional<FolderListing> FolderListing::read(int fd, const QByteArray &nativ
     folder.m_path = path;
     // getdents64 straight on the descriptor: opendir's extra checks cost three system
     // calls a folder, which shows on trees of many small folders.
+    folder.m_entries.reserve(64);
     alignas(dirent64) char buffer[32768];
     for (;;) {
         const ssize_t filled = ::getdents64(fd, buffer, sizeof buffer);

@@ -162,7 +162,7 @@ void BRDuplicateFinderClass::takeFirstHash(FolderRecord &record)
             break;
         }
     }
-    record.unhashedFiles.clear();
+    record.unhashedFiles = {}; // its memory too: a million folders would keep it all
 }
 
 VideoHash BRDuplicateFinderClass::fingerprintOf(const DirectoryEntry &file)
@@ -263,6 +263,9 @@ void BRDuplicateFinderClass::recordFileInFolder(const QString &parent, const Dir
         record = m_fileDict.insert(parent, FolderRecord{});
     // Anything but a regular file fingerprints as unreadable, so it could never be first.
     if ((record->firstHash.isEmpty() || record->lastHash.isEmpty()) && file.isRegularFile()) {
+        // Room for a typical folder at once, rather than a reallocation every few files.
+        if (record->unhashedFiles.isEmpty())
+            record->unhashedFiles.reserve(32);
         record->unhashedFiles.append(file.path);
         if (record->unhashedFiles.size() >= mostUnhashedFiles)
             takeFirstHash(*record);
@@ -385,7 +388,7 @@ void BRDuplicateFinderClass::checkForDuplicateFolder(const StackEntry &folder,
     if (found == m_fileDict.end())
         return;
     if (folderSize < smallestComparedFolderSize) {
-        found->unhashedFiles.clear();
+        found->unhashedFiles = {};
         return;
     }
     takeFirstHash(*found);
