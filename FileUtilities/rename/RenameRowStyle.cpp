@@ -10,6 +10,8 @@
 #include <QPainterPath>
 #include <QPixmap>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int sideMargin = 24;
@@ -19,7 +21,7 @@ constexpr int fieldHeight = 36;
 constexpr int nameHeight = 30;
 constexpr int popoverSide = 28;
 constexpr int removeSide = 22;
-constexpr int markWidth = 56;
+constexpr int leastMarkWidth = 56;
 constexpr int markHeight = 24;
 constexpr int markDisc = 18;
 constexpr int thumbnailRadius = 6;
@@ -50,8 +52,21 @@ QIcon iconOf(int side, IconPainter draw)
 
 } // namespace
 
+QString RenameRowStyle::failedMarkText()
+{
+    return QCoreApplication::translate("RenameRowStyle", "Failed");
+}
+
+QFont RenameRowStyle::failedMarkFont()
+{
+    return Look::font(13, QFont::DemiBold);
+}
+
 RenameRowStyle::Geometry RenameRowStyle::geometry(const QRect &row)
 {
+    // Wide enough for the word in every language ("Fehlgeschlagen" is twice "Failed").
+    const int markWidth = std::max(
+        leastMarkWidth, QFontMetrics(failedMarkFont()).horizontalAdvance(failedMarkText()) + 2);
     Geometry parts;
     const int middle = row.top() + row.height() / 2;
     parts.thumbnail =
@@ -247,9 +262,8 @@ void RenameRowStyle::paintMark(QPainter *painter, const QRect &rect, RowMark mar
     }
     case RowMark::Failed:
         painter->setPen(red);
-        painter->setFont(Look::font(13, QFont::DemiBold));
-        painter->drawText(rect, Qt::AlignRight | Qt::AlignVCenter,
-                          QCoreApplication::translate("RenameRowStyle", "Failed"));
+        painter->setFont(failedMarkFont());
+        painter->drawText(rect, Qt::AlignRight | Qt::AlignVCenter, failedMarkText());
         break;
     case RowMark::None:
         break;

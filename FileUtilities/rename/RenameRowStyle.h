@@ -69,6 +69,9 @@ public:
     static void paintMark(QPainter *painter, const QRect &rect, RowMark mark);
     // The same as a picture, for the live cell.
     static QPixmap markPixmap(RowMark mark, QSize size, qreal ratio);
+    // The word a failed row shows, in the user's language, and its font.
+    static QString failedMarkText();
+    static QFont failedMarkFont();
 
     // The picture in its frame, for the live cell's image view.
     static QPixmap thumbnailPixmap(const QImage &image, qreal ratio);

@@ -104,26 +104,26 @@ CopyRemoval::Result CopyRemoval::run(const Request &request, const std::atomic<b
 
 QString CopyRemoval::sentence(Outcome outcome, const QString &name)
 {
-    const QString quoted = u'\u201C' + name + u'\u201D';
+    // The quotation marks belong to the sentence: each language has its own.
     switch (outcome) {
     case Outcome::Changed:
         return QCoreApplication::translate("CopyRemoval",
-                                           "%1 has changed since the scan, so it was kept.")
-            .arg(quoted);
+                                           "“%1” has changed since the scan, so it was kept.")
+            .arg(name);
     case Outcome::LastCopy:
         return QCoreApplication::translate(
-                   "CopyRemoval", "%1 is the last copy left in this group, so it was kept.")
-            .arg(quoted);
+                   "CopyRemoval", "“%1” is the last copy left in this group, so it was kept.")
+            .arg(name);
     case Outcome::NotACopy:
         return QCoreApplication::translate(
                    "CopyRemoval",
-                   "%1 is not an exact copy of the other files in this group, so it was kept.")
-            .arg(quoted);
+                   "“%1” is not an exact copy of the other files in this group, so it was kept.")
+            .arg(name);
     case Outcome::Unreadable:
         return QCoreApplication::translate(
                    "CopyRemoval",
-                   "%1 could not be compared with the other files in this group, so it was kept.")
-            .arg(quoted);
+                   "“%1” could not be compared with the other files in this group, so it was kept.")
+            .arg(name);
     case Outcome::Trashed:
     case Outcome::Vanished:
     case Outcome::TrashRefused:

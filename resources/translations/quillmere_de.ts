@@ -46,7 +46,7 @@
     <name>BRChangeFileNameViewController</name>
     <message>
         <source>Enter New Name</source>
-        <translation>Neuen Namen eingeben</translation>
+        <translation>Neuer Name</translation>
     </message>
     <message>
         <source>Start Number</source>
@@ -805,20 +805,20 @@ Umbenennen benennt viele Dateien auf einmal um und überschreibt nie eine Datei.
 <context>
     <name>CopyRemoval</name>
     <message>
-        <source>%1 has changed since the scan, so it was kept.</source>
-        <translation>%1 hat sich seit der Suche geändert und wurde daher behalten.</translation>
+        <source>“%1” has changed since the scan, so it was kept.</source>
+        <translation>„%1“ hat sich seit der Suche geändert und wurde daher behalten.</translation>
     </message>
     <message>
-        <source>%1 is the last copy left in this group, so it was kept.</source>
-        <translation>%1 ist die letzte Kopie in dieser Gruppe und wurde daher behalten.</translation>
+        <source>“%1” is the last copy left in this group, so it was kept.</source>
+        <translation>„%1“ ist die letzte Kopie in dieser Gruppe und wurde daher behalten.</translation>
     </message>
     <message>
-        <source>%1 is not an exact copy of the other files in this group, so it was kept.</source>
-        <translation>%1 ist keine exakte Kopie der anderen Dateien dieser Gruppe und wurde daher behalten.</translation>
+        <source>“%1” is not an exact copy of the other files in this group, so it was kept.</source>
+        <translation>„%1“ ist keine exakte Kopie der anderen Dateien dieser Gruppe und wurde daher behalten.</translation>
     </message>
     <message>
-        <source>%1 could not be compared with the other files in this group, so it was kept.</source>
-        <translation>%1 konnte nicht mit den anderen Dateien dieser Gruppe verglichen werden und wurde daher behalten.</translation>
+        <source>“%1” could not be compared with the other files in this group, so it was kept.</source>
+        <translation>„%1“ konnte nicht mit den anderen Dateien dieser Gruppe verglichen werden und wurde daher behalten.</translation>
     </message>
 </context>
 <context>

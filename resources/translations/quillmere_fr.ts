@@ -805,20 +805,20 @@ Renommer renomme de nombreux fichiers à la fois, sans jamais écraser un fichie
 <context>
     <name>CopyRemoval</name>
     <message>
-        <source>%1 has changed since the scan, so it was kept.</source>
-        <translation>%1 a changé depuis la recherche et a donc été conservé.</translation>
+        <source>“%1” has changed since the scan, so it was kept.</source>
+        <translation>« %1 » a changé depuis la recherche et a donc été conservé.</translation>
     </message>
     <message>
-        <source>%1 is the last copy left in this group, so it was kept.</source>
-        <translation>%1 est la dernière copie de ce groupe et a donc été conservé.</translation>
+        <source>“%1” is the last copy left in this group, so it was kept.</source>
+        <translation>« %1 » est la dernière copie de ce groupe et a donc été conservé.</translation>
     </message>
     <message>
-        <source>%1 is not an exact copy of the other files in this group, so it was kept.</source>
-        <translation>%1 n’est pas une copie exacte des autres fichiers de ce groupe et a donc été conservé.</translation>
+        <source>“%1” is not an exact copy of the other files in this group, so it was kept.</source>
+        <translation>« %1 » n’est pas une copie exacte des autres fichiers de ce groupe et a donc été conservé.</translation>
     </message>
     <message>
-        <source>%1 could not be compared with the other files in this group, so it was kept.</source>
-        <translation>%1 n’a pas pu être comparé aux autres fichiers de ce groupe et a donc été conservé.</translation>
+        <source>“%1” could not be compared with the other files in this group, so it was kept.</source>
+        <translation>« %1 » n’a pas pu être comparé aux autres fichiers de ce groupe et a donc été conservé.</translation>
     </message>
 </context>
 <context>
