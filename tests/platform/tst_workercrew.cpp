@@ -87,26 +87,27 @@ private Q_SLOTS:
         QCOMPARE(pace.pace(), 1);
     }
 
-    // From the page cache one thread does everything; woken workers would only take turns.
-    void readsThatNeverSleepStayOnOneWorker()
+    void workersJoinAsReadsSleep_data()
     {
-        Bench bench;
-        bench.pieces.assign(2000, false);
-        runAll(bench, 4);
-        QCOMPARE(bench.done, 2000);
-        QCOMPARE(bench.mostAtOnce, 1);
-        QCOMPARE(bench.threads.size(), size_t(1));
+        QTest::addColumn<bool>("sleeps");
+        QTest::addColumn<int>("pieces");
+        QTest::addColumn<int>("workersUsed");
+        // From the page cache one thread does everything; others would only take turns.
+        QTest::newRow("page cache") << false << 2000 << 1;
+        // From a slow device every worker joins in, and no more than there are.
+        QTest::newRow("slow device") << true << 200 << 4;
     }
-
-    // From a slow device every worker joins in, and no more than there are.
-    void readsThatSleepBringInEveryWorker()
+    void workersJoinAsReadsSleep()
     {
+        QFETCH(bool, sleeps);
+        QFETCH(int, pieces);
+        QFETCH(int, workersUsed);
         Bench bench;
-        bench.pieces.assign(200, true);
+        bench.pieces.assign(static_cast<size_t>(pieces), sleeps);
         runAll(bench, 4);
-        QCOMPARE(bench.done, 200);
-        QCOMPARE(bench.mostAtOnce, 4);
-        QCOMPARE(bench.threads.size(), size_t(4));
+        QCOMPARE(bench.done, pieces);
+        QCOMPARE(bench.mostAtOnce, workersUsed);
+        QCOMPARE(bench.threads.size(), static_cast<size_t>(workersUsed));
     }
 
     void noWorkersRunNothing()
