@@ -13,9 +13,13 @@ namespace Translations {
 bool install(QCoreApplication &application, const QLocale &locale)
 {
     auto *own = new QTranslator(&application);
+    // English finds its own file of plural forms here, so that one file is "1 file".
     const bool found =
         own->load(locale, QStringLiteral("quillmere"), QStringLiteral("_"), resourceFolder());
-    if (found)
+    // Any other language without a translation, and the C locale of scripts, read the English
+    // source texts, and so take their plural forms too.
+    const bool english = !found && own->load(QStringLiteral("quillmere_en"), resourceFolder());
+    if (found || english)
         QCoreApplication::installTranslator(own);
     else
         delete own;
@@ -26,7 +30,7 @@ bool install(QCoreApplication &application, const QLocale &locale)
         QCoreApplication::installTranslator(qt);
     else
         delete qt;
-    if (!found && locale.language() != QLocale::English && locale.language() != QLocale::C)
+    if (!found && locale.language() != QLocale::C)
         qCDebug(platformLog).noquote() << "no translation for" << locale.name();
     return found;
 }

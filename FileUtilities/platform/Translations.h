@@ -15,8 +15,8 @@ inline QString resourceFolder()
 }
 
 // Installs Quillmere's translation for the locale and Qt's "qtbase" one beside it; the
-// translators belong to the application. True when Quillmere's own was found; English,
-// the source language, needs none.
+// translators belong to the application. True when Quillmere has a translation for the
+// locale's language, English (its plural forms) included; any other locale reads English.
 bool install(QCoreApplication &application, const QLocale &locale);
 
 } // namespace Translations

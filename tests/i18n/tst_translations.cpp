@@ -4,7 +4,7 @@
 #include <QTest>
 #include <QTranslator>
 
-// The embedded translations load for German and French and leave English untouched.
+// The embedded translations load for German and French, and English gets its plural forms.
 class TestTranslations : public QObject
 {
     Q_OBJECT
@@ -19,15 +19,33 @@ private Q_SLOTS:
         }
     }
 
-    void englishNeedsNone()
+    // English keeps its source texts and takes their plural forms, as does the C locale
+    // of scripts and any language without a translation.
+    void englishHasItsPluralForms_data()
     {
-        QVERIFY(!Translations::install(*qApp, QLocale(QLocale::English, QLocale::UnitedStates)));
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<bool>("ownLanguage");
+        QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedKingdom) << true;
+        QTest::newRow("C") << QLocale::c() << false;
+        QTest::newRow("Spanish, untranslated")
+            << QLocale(QLocale::Spanish, QLocale::Spain) << false;
+    }
+    void englishHasItsPluralForms()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(bool, ownLanguage);
+        QCOMPARE(Translations::install(*qApp, locale), ownLanguage);
         QCOMPARE(QCoreApplication::translate("QuitPolicy", "Quit Quillmere?"),
                  QStringLiteral("Quit Quillmere?"));
-        // Without a translator a %n text shows the count in the English source as it is.
         QCOMPARE(
             QCoreApplication::translate("BRRenameViewController", "Rename %n files", nullptr, 1),
-            QStringLiteral("Rename 1 files"));
+            QStringLiteral("Rename 1 file"));
+        QCOMPARE(
+            QCoreApplication::translate("BRRenameViewController", "Rename %n files", nullptr, 0),
+            QStringLiteral("Rename 0 files"));
+        QCOMPARE(
+            QCoreApplication::translate("BRRenameCompleteView", "%n files renamed", nullptr, 1),
+            QStringLiteral("1 file renamed"));
     }
 
     void germanAndFrench_data()

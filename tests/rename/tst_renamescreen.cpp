@@ -13,6 +13,7 @@
 #include "ScriptedAlertPresenter.h"
 #include "ScriptedOpenPanel.h"
 #include "TestDir.h"
+#include "Translations.h"
 
 #include <QDir>
 #include <QLabel>
@@ -89,6 +90,9 @@ private:
     }
 
 private Q_SLOTS:
+    // English with its plural forms, as the program starts.
+    void initTestCase() { Translations::install(*qApp, QLocale(QLocale::English)); }
+
     void theButtonCountsTheRowsAndRefusedFilesAreToldAfterwards()
     {
         TestDir one, two;
@@ -222,12 +226,12 @@ private Q_SLOTS:
         s.add(urls(dir, "n1.jpg z.jpg"));
         s.view.renameUsingOption(u"n"_s, u"1"_s, NamePlacement::AfterName);
         s.waitForRules();
-        QCOMPARE(s.renameButtonText(), u"Rename 1 files"_s);
+        QCOMPARE(s.renameButtonText(), u"Rename 1 file"_s);
         s.renameAndWait();
         QTRY_VERIFY(s.view.renameCompleteStatusView()->isVisibleTo(&s.view));
         QCOMPARE(s.titles(), QStringList());
         QCOMPARE(s.view.renameCompleteStatusView()->renameStatusLabel()->text(),
-                 u"1 files renamed"_s);
+                 u"1 file renamed"_s);
         QVERIFY(QFile::exists(dir.filePath(u"n1.jpg"_s)));
         QVERIFY(QFile::exists(dir.filePath(u"n2.jpg"_s)));
     }
@@ -267,11 +271,11 @@ private Q_SLOTS:
                  u"b.jpg could not be renamed. Permission denied: the file or its folder is "
                  "locked, or you may not change it."_s);
         s.waitForRules();
-        QCOMPARE(s.renameButtonText(), u"Rename 1 files"_s);
+        QCOMPARE(s.renameButtonText(), u"Rename 1 file"_s);
 
         s.renameAndWait();
         QTRY_VERIFY(complete->isVisible());
-        QCOMPARE(complete->renameStatusLabel()->text(), u"1 files renamed"_s);
+        QCOMPARE(complete->renameStatusLabel()->text(), u"1 file renamed"_s);
         QVERIFY(!complete->showFailedButton()->isVisible());
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files),
                  (QStringList{u"n1.jpg"_s, u"n2.jpg"_s, u"n3.jpg"_s}));
@@ -279,7 +283,7 @@ private Q_SLOTS:
         // Undo takes back the last rename only: the file tried again.
         complete->undoButton()->click();
         QTRY_COMPARE(complete->headlineLabel()->text(), u"Rename undone"_s);
-        QCOMPARE(complete->renameStatusLabel()->text(), u"1 files have their old names again"_s);
+        QCOMPARE(complete->renameStatusLabel()->text(), u"1 file has its old name again"_s);
         QVERIFY(!complete->undoButton()->isVisible());
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files),
                  (QStringList{u"b.jpg"_s, u"n1.jpg"_s, u"n3.jpg"_s}));
@@ -305,7 +309,7 @@ private Q_SLOTS:
                  u"n1.jpg could not be named a.jpg again. A file named \u201ca.jpg\u201d is "
                  "already in this folder."_s);
         QCOMPARE(complete->renameStatusLabel()->text(),
-                 u"1 files have their old names again, 1 could not go back"_s);
+                 u"1 file has its old name again, 1 could not go back"_s);
         // What could not go back can be tried again.
         QVERIFY(complete->undoButton()->isVisibleTo(complete));
         QVERIFY(complete->undoButton()->isEnabled());

@@ -15,6 +15,7 @@
 #include "RenameNotificationCenter.h"
 #include "RenameTableModel.h"
 #include "ScriptedOpenPanel.h"
+#include "Translations.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -125,6 +126,9 @@ class TestRenameViews : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // English with its plural forms, as the program starts.
+    void initTestCase() { Translations::install(*qApp, QLocale(QLocale::English)); }
+
     void dropTargetTakesOnlyFiles_data();
     void dropTargetTakesOnlyFiles();
     void dropTargetLightsUpWhileFilesAreOver();
@@ -234,10 +238,10 @@ void TestRenameViews::completionCountsTheRenamedFiles()
     QSignalSpy done(&center, &RenameNotificationCenter::renameDone);
 
     Q_EMIT center.renameComplete({u"Trip1"_s});
-    QCOMPARE(view.renameStatusLabel()->text(), u"1 files renamed"_s);
+    QCOMPARE(view.renameStatusLabel()->text(), u"1 file renamed"_s);
     QCOMPARE(view.renameStatusLabel()->alignment() & Qt::AlignHCenter, Qt::AlignHCenter);
     Q_EMIT center.renameComplete({});
-    QCOMPARE(view.renameStatusLabel()->text(), u"1 files renamed"_s);
+    QCOMPARE(view.renameStatusLabel()->text(), u"1 file renamed"_s);
 
     QCOMPARE(view.doneButton()->text(), u"Done"_s);
     QTest::mouseClick(view.doneButton(), Qt::LeftButton);

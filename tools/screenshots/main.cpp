@@ -421,7 +421,10 @@ int main(int argc, char *argv[])
         QIcon::setThemeSearchPaths(paths);
         QIcon::setThemeName(u"Adwaita"_s);
     }
-    // Every screen in that language, as a German or French desktop shows it.
+    // Every screen in that language, as a German or French desktop shows it; English with
+    // its plural forms otherwise, as the program starts.
+    if (options.language.isEmpty())
+        Translations::install(application, QLocale(QLocale::English));
     if (!options.language.isEmpty()) {
         if (!Translations::install(application, QLocale(options.language))) {
             std::fprintf(stderr, "quillmere-screenshots: no translation for \"%s\"\n",
