@@ -323,6 +323,11 @@ private Q_SLOTS:
         QTest::newRow("hidden source keeps its suffix")
             << u".profile"_s << u"p"_s << u"p.profile"_s << ok;
         QTest::newRow("dot at the end") << u"draft."_s << u"final"_s << u"final"_s << ok;
+        // Characters that mean something to URLs, shells or format strings are plain names.
+        QTest::newRow("newline in both") << u"a\nb.jpg"_s << u"c\nd"_s << u"c\nd.jpg"_s << ok;
+        QTest::newRow("percent signs")
+            << u"100%25 done.txt"_s << u"%1 %2F%s"_s << u"%1 %2F%s.txt"_s << ok;
+        QTest::newRow("hash and question mark") << u"#1?.png"_s << u"?#"_s << u"?#.png"_s << ok;
     }
     void targetNames()
     {
