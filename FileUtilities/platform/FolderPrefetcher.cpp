@@ -116,9 +116,9 @@ void FolderPrefetcher::listNext(std::unique_lock<std::mutex> &lock)
     ++m_busy;
     const Slot request{State::Reading, slot.nativePath, slot.path, slot.stamp, std::nullopt};
     lock.unlock();
-    const long sleepsBefore = ReadPace::sleepsOfThisThread();
+    const ReadPace::SleepWatch watch;
     std::optional<FolderListing> listing = read(request);
-    const bool slept = ReadPace::sleepsOfThisThread() != sleepsBefore;
+    const bool slept = watch.slept();
     std::vector<std::pair<Place, Slot>> offered;
     if (listing)
         offered = subfoldersOf(*listing, place);

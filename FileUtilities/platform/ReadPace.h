@@ -17,11 +17,22 @@ public:
     // Counts one finished read; true when the pace grew.
     bool countRead(bool slept);
 
+    // Made before a read on the thread that reads: whether the thread has slept since, on
+    // the device, a lock or a condition.
+    class SleepWatch
+    {
+    public:
+        bool slept() const { return sleepsOfThisThread() != m_before; }
+
+    private:
+        long m_before = sleepsOfThisThread();
+    };
+
+private:
     // The times the calling thread has gone to sleep of its own accord: waiting on the
     // device, a lock or a condition.
     static long sleepsOfThisThread();
 
-private:
     // Reads this long in a row without sleeping mean the tree is in the page cache.
     static constexpr int slowDownAfter = 32;
 

@@ -70,13 +70,13 @@ void FingerprintReadAhead::readNext(std::unique_lock<std::mutex> &lock)
     const std::shared_ptr<const FileDescriptor> folder = job->folder;
     const QByteArray nativeName = job->nativeName;
     lock.unlock();
-    const long sleepsBefore = ReadPace::sleepsOfThisThread();
+    const ReadPace::SleepWatch watch;
     if (m_beforeRead)
         m_beforeRead();
     // One each: it keeps its buffers from one file to the next.
     thread_local OSHashAlgorithm fingerprint;
     VideoHash hash = fingerprint.hashForFileInFolder(folder ? folder->get() : -1, nativeName, path);
-    const bool slept = ReadPace::sleepsOfThisThread() != sleepsBefore;
+    const bool slept = watch.slept();
     lock.lock();
     m_crew.countReadLocked(slept);
     job = m_jobs.find(path);

@@ -40,10 +40,10 @@ void runAll(Bench &bench, int workers)
                 bench.threads.insert(std::this_thread::get_id());
                 bench.mostAtOnce = std::max(bench.mostAtOnce, ++bench.running);
                 held.unlock();
-                const long before = ReadPace::sleepsOfThisThread();
+                const ReadPace::SleepWatch watch;
                 if (sleeps)
                     std::this_thread::sleep_for(std::chrono::milliseconds(2));
-                const bool slept = ReadPace::sleepsOfThisThread() != before;
+                const bool slept = watch.slept();
                 held.lock();
                 --bench.running;
                 ++bench.done;
