@@ -36,11 +36,6 @@ const char usage[] = QT_TRANSLATE_NOOP(
     "Exit status: 0 when the scan ran, 1 when the output could not be written,\n"
     "2 when PATH is not a readable folder or the arguments are wrong.\n");
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("quillmere-scan", text);
-}
-
 int fail(const QString &message)
 {
     std::fprintf(stderr, "quillmere-scan: %s\n", message.toLocal8Bit().constData());
@@ -62,7 +57,9 @@ int main(int argc, char *argv[])
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments.at(i);
         if (argument == QStringLiteral("--help") || argument == QStringLiteral("-h")) {
-            std::fputs(translated(usage).toLocal8Bit().constData(), stdout);
+            std::fputs(
+                QCoreApplication::translate("quillmere-scan", usage).toLocal8Bit().constData(),
+                stdout);
             return 0;
         }
         if (argument == QStringLiteral("--version")) {
