@@ -64,8 +64,9 @@ QFont RenameRowStyle::failedMarkFont()
 
 RenameRowStyle::Geometry RenameRowStyle::geometry(const QRect &row)
 {
-    // Wide enough for the word in every language ("Fehlgeschlagen" is twice "Failed").
-    const int markWidth = std::max(
+    // Wide enough for the word in every language ("Fehlgeschlagen" is twice "Failed"). The
+    // language is chosen at start, so the width is measured once, not for every row painted.
+    static const int markWidth = std::max(
         leastMarkWidth, QFontMetrics(failedMarkFont()).horizontalAdvance(failedMarkText()) + 2);
     Geometry parts;
     const int middle = row.top() + row.height() / 2;
