@@ -121,6 +121,21 @@ struct Listed
     }
 };
 
+// Lists a.jpg b.jpg c.jpg, names them n1 to n3 and renames with b.jpg held fast, so that it
+// alone fails. Empty when it ran; otherwise why b.jpg could not be held.
+QString renameWithTheMiddleOneStuck(TestDir &dir, Listed &l)
+{
+    create(dir, "a.jpg b.jpg c.jpg");
+    l.list.add(urls(dir, "a.jpg b.jpg c.jpg"));
+    l.list.setFullNameRule(u"n"_s, u"1"_s, NamePlacement::AfterName);
+    l.waitForRules();
+    const ImmutableFlag stuck(dir.filePath(u"b.jpg"_s));
+    if (!stuck.isSet())
+        return stuck.error();
+    l.renameAndWait();
+    return {};
+}
+
 } // namespace
 
 // The rename list, its rules and its runs, on real files in temporary folders.
@@ -310,17 +325,9 @@ private Q_SLOTS:
     void failedRowsComeBackForAnotherTry()
     {
         TestDir dir;
-        create(dir, "a.jpg b.jpg c.jpg");
         Listed l;
-        l.list.add(urls(dir, "a.jpg b.jpg c.jpg"));
-        l.list.setFullNameRule(u"n"_s, u"1"_s, NamePlacement::AfterName);
-        l.waitForRules();
-        {
-            const ImmutableFlag stuck(dir.filePath(u"b.jpg"_s));
-            if (!stuck.isSet())
-                QSKIP(qPrintable(stuck.error()));
-            l.renameAndWait();
-        }
+        if (const QString error = renameWithTheMiddleOneStuck(dir, l); !error.isEmpty())
+            QSKIP(qPrintable(error));
         QCOMPARE(l.renamed, (QStringList{u"n1"_s, u"n3"_s}));
         QCOMPARE(l.troubles, QStringList{u"failed"_s});
         QVERIFY(l.list.keys().isEmpty());
@@ -436,17 +443,9 @@ private Q_SLOTS:
     void undoAfterAPartialFailureTouchesOnlyWhatMoved()
     {
         TestDir dir;
-        create(dir, "a.jpg b.jpg c.jpg");
         Listed l;
-        l.list.add(urls(dir, "a.jpg b.jpg c.jpg"));
-        l.list.setFullNameRule(u"n"_s, u"1"_s, NamePlacement::AfterName);
-        l.waitForRules();
-        {
-            const ImmutableFlag stuck(dir.filePath(u"b.jpg"_s));
-            if (!stuck.isSet())
-                QSKIP(qPrintable(stuck.error()));
-            l.renameAndWait();
-        }
+        if (const QString error = renameWithTheMiddleOneStuck(dir, l); !error.isEmpty())
+            QSKIP(qPrintable(error));
         QCOMPARE(listing(dir), u"b.jpg n1.jpg n3.jpg"_s);
         QCOMPARE(l.list.undoRecord().size(), 2);
         const auto [restored, failures] = l.undoAndWait();
